@@ -1,0 +1,113 @@
+#include "model/ppdimport.h"
+
+#include "model/boption.h"
+#include "model/constraintrules.h"
+#include "model/optionchoice.h"
+#include "model/optionstore.h"
+#include "model/syntheticoptions.h"
+
+#include <QFile>
+
+#include <cstring>
+
+namespace {
+
+void detectFilters(const ppd_file_t *ppd, OptionStore *store)
+{
+    for (int i = 0; i < ppd->num_filters; ++i) {
+        const char *filter = ppd->filters[i];
+        if (std::strstr(filter, "ras") || std::strstr(filter, "pdf"))
+            store->setRasterOrPdfFilter(true);
+    }
+    store->setModelName(QString::fromUtf8(ppd->modelname));
+}
+
+bOption *importOption(const ppd_option_t &source)
+{
+    auto option = std::make_unique<bOption>(QString::fromLatin1(source.keyword),
+                                            QString::fromUtf8(source.text));
+    for (int i = 0; i < source.num_choices; ++i)
+        option->addChoice(QString::fromLatin1(source.choices[i].choice),
+                          QString::fromUtf8(source.choices[i].text));
+    option->setDefaultChoice(option->findChoice(QString::fromLatin1(source.defchoice)));
+    option->setPpdOption(true);
+    return option.release();
+}
+
+void importOptions(const ppd_file_t *ppd, OptionStore *store)
+{
+    for (int i = 0; i < ppd->num_groups; ++i) {
+        const ppd_group_t &group = ppd->groups[i];
+        for (int j = 0; j < group.num_options; ++j)
+            store->insert(importOption(group.options[j]));
+    }
+}
+
+/// Collation and job storage have rules of their own here.
+bool isCollationAgainstStorage(const ppd_const_t &rule)
+{
+    const auto names = [&rule](const char *first, const char *second) {
+        return std::strcmp(rule.option1, first) == 0 && std::strcmp(rule.option2, second) == 0;
+    };
+    return names("Coll", "BXCollate1") || names("BXCollate1", "Coll");
+}
+
+void importPairConstraints(const ppd_file_t *ppd, OptionStore *store)
+{
+    for (int i = 0; i < ppd->num_consts; ++i) {
+        const ppd_const_t &rule = ppd->consts[i];
+        if (!isCollationAgainstStorage(rule))
+            store->addConstraint(
+                QString::fromLatin1(rule.option1), QString::fromLatin1(rule.choice1),
+                QString::fromLatin1(rule.option2), QString::fromLatin1(rule.choice2));
+    }
+}
+
+void selectDefaults(OptionStore *store)
+{
+    const QList<bOption *> options = store->optionList();
+    for (bOption *option : options)
+        option->setCurrent(option->defaultChoice());
+}
+
+void importGroupConstraints(ppd_file_t *ppd, OptionStore *store)
+{
+    constexpr char keyword[] = "cupsUIConstraints";
+    for (const ppd_attr_t *attribute = ppdFindAttr(ppd, keyword, nullptr); attribute;
+         attribute = ppdFindNextAttr(ppd, keyword, nullptr))
+        addCupsUiConstraint(store, QString::fromLatin1(attribute->value));
+    addFixedGroupRules(store);
+}
+
+} // namespace
+
+void importPpd(ppd_file_t *ppd, OptionStore *store)
+{
+    ppdLocalize(ppd);
+    detectFilters(ppd, store);
+    importOptions(ppd, store);
+    importPairConstraints(ppd, store);
+    selectDefaults(store);
+    // No second run of the pair constraints after the defaults: equal pairs are stored once, so it
+    // would add nothing.
+    addFinishingModes(ppd, store);
+    addPublishingModes(ppd, store);
+    addJobOptions(ppd, store);
+    addSuperWatermark(ppd, store);
+    addPolicyOptions(store);
+    addFixedPairRules(store);
+    setPriorities(store);
+    importGroupConstraints(ppd, store);
+    addDerivedRules(store);
+}
+
+std::unique_ptr<OptionStore> importPpdFile(const QString &path)
+{
+    ppd_file_t *ppd = ppdOpenFile(QFile::encodeName(path).constData());
+    if (!ppd)
+        return nullptr;
+    auto store = std::make_unique<OptionStore>();
+    importPpd(ppd, store.get());
+    ppdClose(ppd);
+    return store;
+}
