@@ -1,0 +1,171 @@
+#include "storage/settingsfile.h"
+
+#include "model/optionstore.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTextStream>
+
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+QString userDir;
+QString currentCfgPath;
+
+namespace {
+
+constexpr int longestLine = 1024;
+
+void makeDirectory(const QByteArray &path)
+{
+    if (access(path.constData(), F_OK) != 0)
+        mkdir(path.constData(), 0775);
+}
+
+/// Calls `use` with the value of each line of `currentCfgPath` that has the key, until it answers
+/// false or the file ends.
+void forEachValue(const QString &key, const std::function<bool(const QString &)> &use)
+{
+    QFile file(currentCfgPath);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return;
+    QTextStream stream(&file);
+    stream.setCodec("UTF-8");
+    while (!stream.atEnd()) {
+        const QString line = stream.readLine(longestLine);
+        const int equals = line.indexOf(QLatin1Char('='));
+        // A line without "=" is all key, with nothing behind it.
+        if (line.leftRef(equals) == key && !use(equals < 0 ? QString() : line.mid(equals + 1)))
+            return;
+    }
+}
+
+/// What stands before the entries of a file.
+enum class Heading
+{
+    None,
+    Model,
+    Profile
+};
+
+void writeFile(const QString &path, const Settings &settings, Heading heading,
+               const QString *description)
+{
+    ensureUserDir();
+    unlink(QFile::encodeName(path).constData());
+    QFile file(path);
+    // In a folder that can't be written to, the old file is still there and must not show through.
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Truncate))
+        return;
+    QTextStream stream(&file);
+    stream.setCodec("UTF-8");
+    if (heading == Heading::Profile)
+        stream << "[Profile]" << Qt::endl;
+    if (heading != Heading::None)
+        stream << '[' << (currentStore ? currentStore->modelName() : QString()) << ']' << Qt::endl;
+    if (description)
+        stream << "ProfileDescription=" << *description << Qt::endl;
+    for (auto entry = settings.cbegin(); entry != settings.cend(); ++entry)
+        stream << entry.key() << '=' << entry.value() << Qt::endl;
+}
+
+} // namespace
+
+QString userDirectory()
+{
+    return QStringLiteral("/usr/share/brixola/%1/")
+        .arg(QString::fromLocal8Bit(std::getenv("USER")));
+}
+
+QString settingsPath()
+{
+    const QString directory = userDirectory();
+    if (!QDir(directory).exists())
+        QDir().mkdir(directory);
+    return directory + QStringLiteral("Settings");
+}
+
+void ensureUserDir()
+{
+    QByteArray path = QFile::encodeName(userDir);
+    if (path.endsWith('/'))
+        path.chop(1);
+    for (int slash = path.indexOf('/', 1); slash > 0; slash = path.indexOf('/', slash + 1))
+        makeDirectory(path.left(slash));
+    makeDirectory(path);
+}
+
+QString cfgPath(const QString &printer)
+{
+    return userDir + printer + QStringLiteral(".cfg");
+}
+
+bool cfgExists(const QString &printer)
+{
+    struct stat status;
+    return stat(QFile::encodeName(cfgPath(printer)).constData(), &status) == 0;
+}
+
+void writeCfg(const QString &path, const Settings &settings, bool plain)
+{
+    writeFile(path, settings, plain ? Heading::None : Heading::Profile, nullptr);
+}
+
+void writeProfile(const QString &path, const Settings &settings, bool plain,
+                  const QString &description)
+{
+    writeFile(path, settings, plain ? Heading::Model : Heading::Profile, &description);
+}
+
+QString readSetting(const QString &key)
+{
+    QString found;
+    forEachValue(key, [&found](const QString &value) {
+        found = value;
+        return false;
+    });
+    return found.isEmpty() ? QString() : found;
+}
+
+QStringList readSettingValues(const QString &key)
+{
+    QStringList found;
+    forEachValue(key, [&found](const QString &value) {
+        found.append(value);
+        return true;
+    });
+    return found;
+}
+
+bool updateSetting(const QString &key, const QString &value)
+{
+    QFile settings(settingsPath());
+    QFile temporary(settings.fileName() + QStringLiteral("_tmp"));
+    // Both are tried whatever becomes of the first, so a lone empty copy may stay behind.
+    const bool readable = settings.open(QIODevice::ReadOnly);
+    const bool writable = temporary.open(QIODevice::WriteOnly);
+    if (!readable || !writable)
+        return false;
+
+    QTextStream in(&settings);
+    QTextStream out(&temporary);
+    bool found = false;
+    while (!in.atEnd()) {
+        QString line = in.readLine();
+        if (line.contains(key)) {
+            line = key + QLatin1Char('=') + value;
+            found = true;
+        }
+        out << line << '\n';
+    }
+    if (!found)
+        out << key << '=' << value << '\n';
+    out.flush();
+    settings.close();
+    temporary.close();
+    return std::rename(QFile::encodeName(temporary.fileName()).constData(),
+                       QFile::encodeName(settings.fileName()).constData()) == 0;
+}
