@@ -1,0 +1,33 @@
+#include "widgets/bixtabbar.h"
+
+#include <QIcon>
+#include <QStyleOptionTab>
+#include <QStylePainter>
+
+BixTabBar::BixTabBar(QWidget *parent)
+    : QTabBar(parent)
+{
+}
+
+void BixTabBar::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    for (int i = 0; i < count(); ++i) {
+        QStyleOptionTab option;
+        initStyleOption(&option, i);
+        const QIcon icon = option.icon;
+        const QString text = option.text;
+        // Only in the option: a change of the tab itself would repaint for ever.
+        option.icon = QIcon();
+        option.text.clear();
+        painter.drawControl(QStyle::CE_TabBarTabShape, option);
+
+        painter.setPen(isTabEnabled(i) ? QColor(Qt::white) : QColor(0, 0, 0, 0));
+        painter.setFont(QFont(QStringLiteral("Arial"), 12));
+        const int iconWidth = iconSize().width();
+        QRect place = option.rect.adjusted(iconWidth + 17, 3, 0, -3);
+        painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, text);
+        place.setLeft(place.left() - (iconWidth + 10));
+        icon.paint(&painter, place, Qt::AlignLeft | Qt::AlignVCenter, QIcon::Active);
+    }
+}

@@ -1,0 +1,55 @@
+#include "widgets/comboboxex.h"
+
+#include <QAbstractItemView>
+#include <QScrollBar>
+#include <QStyleOptionComboBox>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace {
+
+// From this number on the list has a scroll bar.
+constexpr int longListCount = 11;
+
+} // namespace
+
+ComboBoxEx::ComboBoxEx(QWidget *parent)
+    : QComboBox(parent)
+{
+    // Without the wheel, which would take the focus before the event arrives.
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void ComboBoxEx::showPopup()
+{
+    const QFontMetrics metrics = fontMetrics();
+    int widest = 0;
+    for (int i = 0; i < count(); ++i) {
+        int width = metrics.horizontalAdvance(itemText(i));
+        if (!itemIcon(i).isNull())
+            width += iconSize().width() + 4;
+        widest = std::max(widest, width);
+    }
+
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    int width = style()
+                    ->sizeFromContents(QStyle::CT_ComboBox, &option,
+                                       QSize(widest, option.rect.height()), this)
+                    .width();
+    if (count() >= longListCount) {
+        const QScrollBar *bar = view()->verticalScrollBar();
+        width += bar->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, bar);
+    }
+    view()->window()->setFixedWidth(std::max(width, this->width()));
+    QComboBox::showPopup();
+}
+
+void ComboBoxEx::wheelEvent(QWheelEvent *event)
+{
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
+}

@@ -1,0 +1,3 @@
+#include "widgets/paneldialog.h"
+
+bool constraintsClear = false;
