@@ -1,0 +1,30 @@
+#include "app/settingscollector.h"
+
+#include "pages/tab.h"
+
+SettingsCollector::SettingsCollector(const QList<Tab *> &pages)
+    : pages(pages)
+{
+}
+
+const Settings &SettingsCollector::collect()
+{
+    settings.clear();
+    QList<Tab *> collected;
+    for (Tab *page : pages) {
+        // Installed options are the printer's and no user's.
+        if (QLatin1String(page->metaObject()->className()) != QLatin1String("PrinterTab"))
+            collected.append(page);
+    }
+    for (Tab *page : qAsConst(collected)) {
+        const QHash<QString, QString> own = page->collectSettings();
+        for (auto entry = own.cbegin(); entry != own.cend(); ++entry)
+            settings.replace(entry.key(), entry.value());
+    }
+    for (Tab *page : qAsConst(collected)) {
+        const QHash<QString, QString> extra = page->extraSettings();
+        for (auto entry = extra.cbegin(); entry != extra.cend(); ++entry)
+            settings.insert(entry.key(), entry.value());
+    }
+    return settings;
+}

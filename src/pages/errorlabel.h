@@ -1,0 +1,8 @@
+#pragma once
+
+class QLabel;
+class QWidget;
+
+/// A label for an error message under a field: red, with an invisible border, hidden until there is
+/// something to say. `page` becomes its parent.
+QLabel *makeErrorLabel(QWidget *page);

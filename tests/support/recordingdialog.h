@@ -1,0 +1,50 @@
+#pragma once
+
+#include "widgets/paneldialog.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class OptionStore;
+
+/// A main dialog that only notes which of its slots ran, in order, and says which printer is
+/// selected.
+class RecordingDialog : public PanelDialog
+{
+    Q_OBJECT
+
+public:
+    RecordingDialog();
+    ~RecordingDialog() override;
+
+    /// Makes a printer with these options (see makeStore()) the current one, with these lines in
+    /// its settings file. Reloads no page.
+    void selectPrinter(const QString &options, const QString &settings = QString());
+    /// The key of the selected choice, as the current printer's model has it.
+    static QString current(const QString &keyword);
+
+    /// What ran since the last call.
+    QStringList takeCalls();
+    /// If set, its answer follows each entry after a blank: what the caller has done by then.
+    std::function<QString()> remark;
+
+    void recordInstalledValues() override { note(QStringLiteral("recordInstalledValues")); }
+    void showApplied() override { note(QStringLiteral("showApplied")); }
+
+public slots:
+    void writeTolpoptions() override { note(QStringLiteral("writeTolpoptions")); }
+    void setConstraints() override { note(QStringLiteral("setConstraints")); }
+    void toggleColorMode() override { note(QStringLiteral("toggleColorMode")); }
+    void profileChanged() override { note(QStringLiteral("profileChanged")); }
+
+private:
+    void note(const QString &slot);
+
+    QStringList calls;
+    QTemporaryDir directory;
+    std::vector<std::unique_ptr<OptionStore>> stores; // pages may look back at an older one
+};
