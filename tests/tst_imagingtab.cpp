@@ -1,0 +1,377 @@
+#include "model/optionstore.h"
+#include "pages/imagingtab.h"
+#include "storage/settingsfile.h"
+#include "support/recordingdialog.h"
+#include "support/storebuilder.h"
+#include "support/testhelpers.h"
+#include "widgets/bixbuttongroup.h"
+#include "widgets/comboboxex.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+const QString colors = "ColorModel 2 CMYK/Full_color* Gray/Black_&_white\n";
+const QString onOff = "Lnpr 5 Off* On\n";
+const QString two = "Lnpr 5 Off* Level1 Level2\n";
+const QString five = "Lnpr 5 Off* Level1 Level2 Level3 Level4 Level5/Five\n";
+const QString levelsAndOn = "Lnpr 5 Off* Level1 Level2 Level3 Level4 On\n";
+const QString adjustments = "Cadj/Tune_<i>_&_co 5 False* True\nCaColorSpace 99 -1* 0 1\n"
+                            "CaHueMaster 6 00\nCaHr 6 0\nCaHy 6 0\nCaHg 6 0\nCaHc 6 0\nCaHb 6 0\n"
+                            "CaHm 6 0\nCast 6 0\nCabt 6 0\nCact 6 0\nCaCR 6 0\nCaMG 6 0\n"
+                            "CaYB 6 0\nMadj 99 False* True\n";
+const QString everything =
+    "BSCREENMODE/Screen 99 S1* S2\nTrap 99 Off* T1\nGBTn/Black_for_gray 6 False* True\n"
+    "Resolution 5 600* 1200\nSmoothing 99 False True*\nBXGlossmode 6 False* True\n"
+    "Crep 3 C1* C2\nRCM 5 R1* R2\nCIE 99 E1* E2\n" +
+    colors + five + adjustments;
+
+/// Notes the steps of a reload, with what the model and the widgets have by then.
+class Page : public ImagingTab
+{
+public:
+    using ImagingTab::ImagingTab;
+
+    void setTabName() override { ImagingTab::setTabName(), note("setTabName"); }
+    void beforeLoad() override { note("beforeLoad"); }
+    void clearMarks() override { ImagingTab::clearMarks(), note("clearMarks"); }
+    void loadOptions() override { ImagingTab::loadOptions(), note("loadOptions"); }
+    void applyAllWidgets() override { ImagingTab::applyAllWidgets(), note("applyAllWidgets"); }
+    void afterLoad() override { note("afterLoad"); }
+    bool enableOptions() override { return note("enableOptions"), ImagingTab::enableOptions(); }
+
+    ComboBoxEx *list(const QString &name) const
+    {
+        // Not findNamed(), since the levels may be hidden.
+        for (ComboBoxEx *box : findChildren<ComboBoxEx *>()) {
+            if (box->accessibleName() == "cmbBx" + name)
+                return box;
+        }
+        return nullptr;
+    }
+    BixButtonGroup *leanPrint() const { return findNamed<BixButtonGroup>(this, "butGroupLnpr"); }
+    /// LeanPrint as the user sees it: "Off", "On: Five", with "-" before what is greyed.
+    QString leanPrintText() const
+    {
+        const auto text = [](const QWidget *widget, const QString &current) {
+            return (widget->isEnabled() ? "" : "-") + current;
+        };
+        const QString group = text(leanPrint(), leanPrint()->currentText());
+        const ComboBoxEx *levels = list("Lnpr");
+        return levels->isHidden() ? group : group + ": " + text(levels, levels->currentText());
+    }
+    /// All settings but the adjustments as "Keyword=value", sorted, and how many settings there are
+    /// of the colour and of the mono adjustment.
+    QString saved()
+    {
+        const QHash<QString, QString> settings = collectSettings();
+        QStringList words;
+        for (auto it = settings.cbegin(); it != settings.cend(); ++it)
+            words << it.key() + '=' + it.value();
+        words.sort();
+        const QRegularExpression ofColor("^(f?Ca|HueIndex)"), ofGray("^f?M");
+        const int colorKeys = words.filter(ofColor).size(), grayKeys = words.filter(ofGray).size();
+        words = words.filter(QRegularExpression("^(?!f?Ca|HueIndex|f?M)"));
+        return QString("%1 %2 %3").arg(words.join(' ')).arg(colorKeys).arg(grayKeys);
+    }
+
+    QStringList steps;
+
+private:
+    void note(const char *step)
+    {
+        if (!currentStore)
+            return;
+        steps << step + (' ' + RecordingDialog::current("Cadj"));
+        for (const char *keyword : {"Trap", "Lnpr"}) {
+            const ComboBoxEx *box = list(keyword);
+            steps.last() += ' ' + RecordingDialog::current(keyword) + '/' + box->currentText() +
+                            (box->signalsBlocked() ? "" : " loud");
+        }
+    }
+};
+
+struct Panel
+{
+    void load(const QString &options, const QString &settings = QString())
+    {
+        dialog.selectPrinter(options, settings);
+        page->reload();
+    }
+    static QString current(const char *keyword) { return RecordingDialog::current(keyword); }
+
+    RecordingDialog dialog;
+    Page *page = new Page(&dialog);
+    BixButtonGroup *colorGroup = page->colorGroup();
+    QLabel *colorLabel = colorGroup->findChild<QLabel *>();
+};
+
+} // namespace
+
+class TestImagingTab : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void leanPrint_data();
+    void leanPrint();
+    void color_data();
+    void color();
+    void colorFollowsTheModel();
+    void clicksReachModelAndDialog();
+    void colorClickClearsTheOtherMode();
+    void printers();
+    void reloadOrder();
+    void roundTrip_data();
+    void roundTrip();
+    void noPrinter();
+};
+
+void TestImagingTab::leanPrint_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("settings");
+    // "on", "off", a position in the list, or "force" for a pass after another option has excluded
+    // "off", behind which it shows whether something changed.
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("current");
+    QTest::addColumn<QString>("saved");
+    const QString four = "Lnpr 5 Off Level1 Level2* Level3\n";
+    addRow("printer without it", "Trap 99 Off*", "Lnpr=On", "", "-Off", "", "");
+    addRow("on/off: a level saved", onOff, "Lnpr=Level4", "", "On", "On", "On");
+    addRow("on/off: on by default", "Lnpr 5 Off On*", "", "", "On", "On", "On");
+    addRow("on/off: clicks", onOff, "", "on off on", "On", "On", "On");
+    addRow("on/off: forced", onOff, "", "force+ force", "-On", "On", "On");
+    addRow("off alone", "Lnpr 5 Off*", "", "on", "On", "Off", "On");
+    addRow("without choices", "Lnpr 5", "Lnpr=Level1", "", "On", "LnprNULL", "On");
+    addRow("levels: saved", five, "Lnpr=Level5", "", "On: Five", "Level3", "Level5");
+    addRow("levels: on saved", five, "Lnpr=On", "", "On: Level3", "Level3", "Level3");
+    addRow("levels: default", four, "", "", "On: Level2", "Level3", "Level2");
+    addRow("levels: lost", five, "Lnpr=Level9", "", "On: Level3", "Level3", "Level3");
+    addRow("levels: rubbish is off", "Lnpr 5 Off* Foo Level2", "Lnpr=Foo", "", "Off: -Level2",
+           "Off", "Off");
+    addRow("levels: click", five, "", "on 4", "On: Five", "Level5", "Level5");
+    addRow("levels: off turns back", five, "", "on 4 off", "Off: -Level3", "Off", "Off");
+    addRow("levels: forced", five, "", "force+ force", "-On: Level3", "Level3", "Level3");
+    addRow("levels: forced, on already", five, "Lnpr=Level5", "force", "-On: Five", "Level3",
+           "Level5");
+    addRow("four choices: off stays", four, "", "0 off", "Off: -Level1", "Off", "Off");
+    addRow("two levels: saved", two, "Lnpr=Level1", "", "On: Level1", "LnprNULL", "Level1");
+    addRow("two levels: forced", two, "", "force+ force", "-On: Level2", "Off", "Level2");
+    addRow("levels and on: saved", levelsAndOn, "Lnpr=Level4", "", "On: -Level4", "On", "Level4");
+    addRow("no off", "Lnpr 5 None* Level1 Level2 Level3", "", "", "Off: -Level3", "LnprNULL",
+           "Off");
+    addRow("one name", "Lnpr 5 Off* Level1/L Level2/L", "Lnpr=Level2", "", "On: L", "LnprNULL",
+           "Level2");
+    QString twenty = "Lnpr 5 Off*";
+    for (int i = 1; i < 20; ++i)
+        twenty += QString(" Level%1").arg(i);
+    addRow("twenty choices", twenty, "Lnpr=Level19", "", "On: Level19", "Level3", "Level19");
+}
+
+void TestImagingTab::leanPrint()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, settings);
+    QFETCH(QString, steps);
+    const QString rule = steps.contains("force") ? "\nPolicy 1 Off On\nPolicy=On Lnpr=Off" : "";
+    Panel panel;
+    panel.load(five, "Lnpr=Level1"); // a printer before
+    panel.load(option + rule, settings);
+    panel.page->enableOptions();
+    QCOMPARE(panel.dialog.takeCalls(), QStringList());
+    for (const QString &step : steps.split(' ', Qt::SkipEmptyParts)) {
+        if (step.startsWith("force")) {
+            selectValues(*currentStore, "Policy=On");
+            QCOMPARE(panel.page->enableOptions(), step.endsWith('+'));
+        } else if (step[0].isDigit()) {
+            panel.page->list("Lnpr")->setCurrentIndex(step.toInt());
+        } else {
+            panel.page->leanPrint()->buttonAt(step == "on")->click();
+        }
+    }
+    QTEST(panel.page->leanPrintText(), "shown");
+    QTEST(panel.current("Lnpr"), "current");
+    QTEST(panel.page->collectSettings().value("Lnpr"), "saved");
+    if (!rule.isEmpty()) {
+        selectValues(*currentStore, "Policy=Off");
+        QVERIFY(!panel.page->enableOptions());
+        QVERIFY(panel.page->leanPrintText().startsWith("On")); // free to change it again
+    }
+}
+
+void TestImagingTab::color_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("settings");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<bool>("usable");
+    QTest::addColumn<QString>("saved");
+    const char *gray = "Black & white";
+    addRow("printer without color", "Trap 99 Off*", "ColorModel=CMYK", gray, false, "Gray");
+    addRow("gray only", "ColorModel 2 Gray/Black_&_white*", "", gray, false, "Gray");
+    addRow("color only", "ColorModel 2 CMYK/Full_color*", "", gray, false, "");
+    addRow("gray saved", colors, "ColorModel=Gray", gray, true, "Gray");
+    addRow("rgb", "ColorModel 2 RGB/Full_color* Gray/Black_&_white", "", "Full color", true, "RGB");
+}
+
+void TestImagingTab::color()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, settings);
+    Panel panel;
+    panel.load(colors, "ColorModel=CMYK"); // a printer before
+    panel.load(option, settings);
+    for (int i = 0; i < 2; ++i) { // a constraint pass leaves it so
+        QTEST(panel.colorGroup->currentText(), "shown");
+        panel.page->enableOptions();
+    }
+    QTEST(panel.colorGroup->isEnabled(), "usable");
+    QTEST(panel.page->collectSettings().value("ColorModel"), "saved");
+}
+
+void TestImagingTab::colorFollowsTheModel()
+{
+    Panel panel;
+    panel.load("Policy 1 Off On\n" + colors + "Policy=On ColorModel=CMYK");
+    selectValues(*currentStore, "Policy=On");
+    QVERIFY(panel.page->enableOptions());
+    QVERIFY(!panel.page->enableOptions());
+    QCOMPARE(panel.colorGroup->currentText(), QString("Black & white"));
+    QCOMPARE(panel.current("ColorModel"), QString("Gray"));
+    selectValues(*currentStore, "Policy=Off ColorModel=CMYK"); // another page did
+    QVERIFY(!panel.page->enableOptions());
+    QCOMPARE(panel.colorGroup->currentText(), QString("Full color"));
+    panel.page->markKeyword("ColorModel", QString());
+    QVERIFY(panel.colorLabel->text().contains("<img"));
+    panel.page->clearMarks();
+    QVERIFY(!panel.colorLabel->text().contains("<img"));
+}
+
+void TestImagingTab::clicksReachModelAndDialog()
+{
+    Panel panel;
+    panel.load(everything, "Cadj=True\nCaColorSpace=0");
+    panel.dialog.remark = [&] {
+        return panel.current("ColorModel") + panel.current("Cadj") + panel.current("Lnpr");
+    };
+    // Adjustments go before the option moves.
+    panel.colorGroup->buttonAt(1)->click();
+    QCOMPARE(panel.dialog.takeCalls(),
+             QStringList({"toggleColorMode CMYKTrueOff", "setConstraints GrayFalseOff"}));
+    panel.page->leanPrint()->buttonAt(1)->click();
+    panel.page->list("Lnpr")->setCurrentIndex(0);
+    // The list moves first, while the level still counts.
+    panel.page->leanPrint()->buttonAt(0)->click();
+    QCOMPARE(panel.dialog.takeCalls(),
+             QStringList({"setConstraints GrayFalseLevel3", "setConstraints GrayFalseLevel1",
+                          "setConstraints GrayFalseLevel1", "setConstraints GrayFalseOff"}));
+}
+
+void TestImagingTab::colorClickClearsTheOtherMode()
+{
+    Panel panel;
+    const QString expected[] = {"2.5 0", "0 3.7"};
+    for (const int button : {0, 1}) {
+        panel.load(colors + adjustments,
+                   "Cadj=True\nCaColorSpace=0\nfCaHr=2.5\nMadj=True\nfMalt=3.7");
+        panel.colorGroup->buttonAt(button)->click();
+        const QHash<QString, QString> settings = panel.page->collectSettings();
+        QCOMPARE(settings["fCaHr"] + ' ' + settings["fMalt"], expected[button]);
+    }
+}
+
+void TestImagingTab::printers()
+{
+    Panel panel;
+    const auto *label = findNamed<QLabel>(panel.page, "lblAdjustment");
+    const auto loaded = [&](const QString &options, bool raster = false) {
+        panel.page->retranslate(); // as the dialog does on a printer change
+        panel.load(options);
+        currentStore->setRasterOrPdfFilter(raster);
+        return QString(panel.page->isAvailable() ? "" : "not available ") +
+               (label->isEnabled() ? "" : "-") + label->text() + ' ' + panel.page->saved();
+    };
+    QVERIFY(!panel.page->isAvailable());
+    QCOMPARE(loaded(everything),
+             QString("Tune <i> & co: BSCREENMODE=S1 BXGlossmode=False CIE=E1 ColorModel=CMYK "
+                     "Crep=C1 GBTn=False Lnpr=Off RCM=R1 Resolution=600 Smoothing=True Trap=Off "
+                     "29 5"));
+    QCOMPARE(loaded(everything, true).right(3), QString("0 0"));
+    // Nothing of the printer before stays.
+    QCOMPARE(loaded("Madj 5 False True"), QString("not available Adjustment: ColorModel=Gray 0 5"));
+    QCOMPARE(loaded("GBTn 6 False* True"), QString("-Adjustment: ColorModel=Gray GBTn=False 0 5"));
+    QCOMPARE(panel.page->list("Resolution")->currentText(), QString("600 dpi"));
+}
+
+void TestImagingTab::reloadOrder()
+{
+    Panel panel;
+    const QString options = five + adjustments + "Trap 99 Off* T1 T2";
+    panel.load(options, "Trap=T1");
+    panel.page->steps.clear();
+    // Adjustments come before the options, LeanPrint after them; the model follows at the end.
+    panel.load(options, "Trap=T2\nLnpr=Level5\nCadj=True");
+    QCOMPARE(panel.page->steps, QStringList({"setTabName CadjNULL TrapNULL/T1 LnprNULL/Level3",
+                                             "clearMarks CadjNULL TrapNULL/T1 LnprNULL/Level3",
+                                             "loadOptions True TrapNULL/T2 LnprNULL/",
+                                             "applyAllWidgets True T2/T2 Level3/Five"}));
+    QVERIFY(!panel.page->list("Lnpr")->signalsBlocked());
+}
+
+void TestImagingTab::roundTrip_data()
+{
+    QTest::addColumn<int>("colorButton");
+    QTest::addColumn<QString>("adjusted");
+    addRow("hues and tones", 0, "Cadj=True\nCaColorSpace=0\nHueIndex=6\nfCaHm=-0.29\nfCact=9.99");
+    addRow("color balance", 0, "Cadj=True\nCaColorSpace=1\nfCaCR=10\nfCaYB=-0.01");
+    addRow("black and white", 1, "Madj=True\nfMalt=3.7\nfMact=-10");
+}
+
+void TestImagingTab::roundTrip()
+{
+    QFETCH(int, colorButton);
+    QFETCH(QString, adjusted);
+    Panel panel;
+    panel.load(everything, adjusted);
+    // Everything else away from its default.
+    for (const char *name : {"Trap", "CIE", "BXSCREENMODE", "Resolution", "Crep", "RCM"})
+        panel.page->list(name)->setCurrentIndex(1);
+    for (const char *name : {"chkBxBXGlossMode", "chkBxSmoothing", "chkBxGBTn"})
+        findNamed<QCheckBox>(panel.page, name)->click();
+    panel.page->leanPrint()->buttonAt(1)->click();
+    panel.page->list("Lnpr")->setCurrentIndex(4);
+    panel.colorGroup->buttonAt(colorButton)->click();
+    const QHash<QString, QString> settings = panel.page->collectSettings();
+    for (const QString &line : adjusted.split('\n'))
+        QCOMPARE(settings.value(line.section('=', 0, 0)), line.section('=', 1));
+
+    Panel fresh;
+    fresh.dialog.selectPrinter(everything);
+    writeCfg(currentCfgPath, Settings(settings), true);
+    fresh.page->reload();
+    fresh.page->enableOptions();
+    QCOMPARE(fresh.page->collectSettings(), settings);
+    QCOMPARE(fresh.page->leanPrintText(), QString("On: Five"));
+}
+
+void TestImagingTab::noPrinter()
+{
+    Panel panel;
+    panel.load(everything);
+    currentStore = nullptr;
+    panel.page->reload();
+    QVERIFY(!panel.page->enableOptions() && !panel.page->isAvailable());
+    panel.page->leanPrint()->buttonAt(1)->click();
+    panel.page->list("Lnpr")->setCurrentIndex(-1);
+    for (const int button : {1, 0})
+        panel.colorGroup->buttonAt(button)->click();
+    QCOMPARE(panel.page->saved(), QString("ColorModel=Gray 0 0"));
+}
+
+QTEST_MAIN(TestImagingTab)
+
+#include "tst_imagingtab.moc"
