@@ -1,0 +1,101 @@
+#pragma once
+
+#include "pages/tab.h"
+#include "policy/policyreply.h"
+
+class QCheckBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+class bcurl;
+
+/// The page "Fleet Keeper": logs the user in at a print-policy server and lays its restrictions on
+/// the options.
+///
+/// The restrictions are synthetic options; what they forbid is for the constraint engine. The page
+/// sets them after each answer. While it is switched on it has a mark, and so holds back OK and
+/// Apply, until the server has accepted exactly what the fields hold. Each reload logs in again by
+/// itself with what the printer's settings file holds.
+class FKPTab : public Tab
+{
+    Q_OBJECT
+
+public:
+    explicit FKPTab(PanelDialog *dialog);
+
+    void setTabName() override;
+    void createWidgets() override;
+    QIcon tabIcon() override;
+    QIcon tabConstraintIcon() override;
+    bool isAvailable() override;
+    void reload() override;
+    QHash<QString, QString> collectSettings() override;
+    bool hasMarks() override { return marked; }
+    void markConstraintWidgets() override;
+
+    virtual void connectSignals();
+
+signals:
+    /// A policy forbids colour.
+    void colorchanged();
+
+public slots:
+    /// Logs in with what the fields hold.
+    void verify();
+    /// Marks the switch with what is missing before the settings can be saved.
+    void markCustomConstraints();
+    /// Brings page and model in line with the switch.
+    void toggleFKP();
+    void toggleNotifications();
+    /// Notes whether the fields differ from what was verified last.
+    void checkForChanges();
+    void verifySuccess(const QString &message);
+    void verifyFailure(const QString &message);
+    void emit_colorchanged();
+
+private:
+    QLabel *addField(const char *labelName, const QString &labelText, QLineEdit **edit,
+                     const char *editName, const char *pattern);
+    void createLayout();
+    bool isOn() const;
+    void enableFields();
+    void switchOptions();
+    bool isIncomplete() const;
+    QString fault() const;
+    void loadPolicySettings();
+    void silentVerify();
+    void startLogin(const QString &server, const QString &port, const QString &user,
+                    const QString &password);
+    void applyPolicies();
+    bool isStaleReply(const QString &message) const;
+    void recordVerified(bool on);
+    void showMessage(const QString &text);
+
+    BixButtonGroup *fkpButtons;
+    QLabel *serverLabel;
+    QLineEdit *serverEdit;
+    QLabel *portLabel;
+    QLineEdit *portEdit;
+    QLabel *userLabel;
+    QLineEdit *userEdit;
+    QLabel *passwordLabel;
+    QLineEdit *passwordEdit;
+    QCheckBox *notificationBox;
+    QRadioButton *continueRadio;
+    QRadioButton *cancelRadio;
+    QPushButton *verifyButton;
+
+    bcurl *client;
+    bool credentialsChanged = false; ///< the fields differ from the last verified state
+    bool verifiedEnabled = false;    ///< the switch and the fields at the last accepted login or
+    QString verifiedServer;          ///< at loading
+    QString verifiedPort;
+    QString verifiedUser;
+    QString verifiedPassword;
+    Policies policies = PolicyReply::noRestrictions();
+    bool interactive = false;    ///< the user started the running request
+    bool verifySucceeded = true; ///< the last answer held policies
+    bool serverReached = false;  ///< the last request was answered at all
+};

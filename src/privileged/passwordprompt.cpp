@@ -1,0 +1,137 @@
+#include "privileged/passwordprompt.h"
+
+#include "model/optionstore.h"
+#include "privileged/ppdwriter.h"
+#include "widgets/comboboxex.h"
+#include "widgets/paneldialog.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+const QLatin1String sudoMethod("sudo");
+const QLatin1String suMethod("su");
+
+// Forgets that sudo has been given a password lately.
+constexpr char forgetCommand[] = "sudo -k";
+
+QString prefixOf(const QString &method)
+{
+    return method == sudoMethod ? QStringLiteral("sudo -S -p \"\"") : QStringLiteral("su -c");
+}
+
+/// The selected printer; empty if it has vanished while the prompt was open.
+QString printerName()
+{
+    return currentStore ? currentStore->printerName() : QString();
+}
+
+} // namespace
+
+PasswordPrompt::PasswordPrompt(PanelDialog *owner, const QString &ppdArguments)
+    : passwordEdit(new QLineEdit(this))
+    , methodCombo(new ComboBoxEx(this))
+    , owner(owner)
+    , ppdArguments(ppdArguments)
+{
+    owner->closeAfterApply = false;
+    setWindowTitle(tr("Password Prompt"));
+    setWindowFlags(windowFlags() &
+                   ~(Qt::WindowMinMaxButtonsHint | Qt::WindowContextHelpButtonHint));
+    methodCombo->setAccessibleName(QStringLiteral("cmbBxMethod"));
+    methodCombo->addItems({sudoMethod, suMethod});
+    passwordEdit->setAccessibleName(QStringLiteral("lnEditRootPassword"));
+    passwordEdit->setEchoMode(QLineEdit::Password);
+    passwordEdit->setInputMethodHints(Qt::ImhHiddenText | Qt::ImhSensitiveData |
+                                      Qt::ImhNoPredictiveText);
+    createLayout();
+    passwordEdit->setFocus();
+}
+
+void PasswordPrompt::createLayout()
+{
+    auto *label = new QLabel(tr("Please enter the root password."), this);
+    label->setBuddy(passwordEdit);
+    auto *okButton = new QPushButton(tr("OK"), this);
+    okButton->setAccessibleName(QStringLiteral("butOk"));
+    connect(okButton, &QPushButton::clicked, this, &PasswordPrompt::okButtonSlot);
+
+    auto *grid = new QGridLayout(this);
+    grid->setSizeConstraint(QLayout::SetFixedSize);
+    grid->addWidget(label, 1, 1, 1, 3, Qt::AlignCenter);
+    grid->addWidget(methodCombo, 2, 1, Qt::AlignRight);
+    grid->addWidget(passwordEdit, 2, 2, Qt::AlignLeft);
+    grid->addWidget(okButton, 3, 2, Qt::AlignRight);
+}
+
+void PasswordPrompt::reject()
+{
+    QDialog::reject();
+}
+
+void PasswordPrompt::okButtonSlot()
+{
+    if (!PpdWriter::areHarmless(printerName(), ppdArguments)) {
+        // The shell would make something else of these, as root. No password justifies that.
+        showFailure();
+        close();
+        return;
+    }
+    QString password = takePassword();
+    PpdWriter::run(forgetCommand);
+    const int status = runPpdWriter(password, prefixOf(methodCombo->currentText()), ppdArguments);
+    cleanse(&password);
+    if (status != 0)
+        showFailure();
+    else
+        finishApply();
+    PpdWriter::run(forgetCommand);
+    close();
+}
+
+/// The text of the field, which forgets it.
+QString PasswordPrompt::takePassword()
+{
+    QString password = passwordEdit->text();
+    passwordEdit->setText(QString()); // unlike clear() keeps nothing to undo
+    return password;
+}
+
+int PasswordPrompt::runPpdWriter(const QString &password, const QString &prefix,
+                                 const QString &arguments)
+{
+    QByteArray line = PpdWriter::commandLine(password, prefix, printerName(), arguments);
+    const int status = PpdWriter::run(line.constData());
+    cleanse(&line);
+    return status;
+}
+
+void PasswordPrompt::showFailure()
+{
+    QMessageBox box(this);
+    box.setWindowTitle(tr("Error"));
+    box.setText(tr("Could not authorize."));
+    box.exec();
+}
+
+void PasswordPrompt::finishApply()
+{
+    owner->closeAfterApply = true;
+    owner->recordInstalledValues();
+    owner->writeTolpoptions();
+    owner->showApplied();
+}
+
+bool PasswordPrompt::authenticationPassed(const QString &message, const QString &root)
+{
+    if (root == suMethod)
+        return !message.isEmpty();
+    if (root != sudoMethod)
+        return false;
+    return message.isEmpty() || (message.contains(QLatin1String("password for")) &&
+                                 !message.contains(QLatin1String("attempt")));
+}

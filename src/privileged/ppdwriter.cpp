@@ -1,0 +1,77 @@
+#include "privileged/ppdwriter.h"
+
+#include "privileged/secretmemory.h"
+
+#include <QFile>
+#include <QStringList>
+#include <QTextStream>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+constexpr int mostLines = 3;
+
+bool isHarmless(QChar character)
+{
+    // In UTF-8 no letter holds a byte that means something to a shell.
+    return character.isLetter() || character.isDigit() ||
+           QLatin1String("_-.+@:,/%=").contains(character);
+}
+
+bool isHarmless(const QString &word)
+{
+    return !word.isEmpty() && std::all_of(word.begin(), word.end(),
+                                          [](QChar character) { return isHarmless(character); });
+}
+
+} // namespace
+
+namespace PpdWriter {
+
+bool areHarmless(const QString &printer, const QString &arguments)
+{
+    QStringList pairs = arguments.split(QLatin1Char(' '));
+    pairs.removeLast(); // what is behind the last blank
+    return isHarmless(printer) && (arguments.isEmpty() || arguments.endsWith(QLatin1Char(' '))) &&
+           std::all_of(pairs.begin(), pairs.end(), [](const QString &pair) {
+               // A pair with a blank in it falls apart into words without one.
+               return isHarmless(pair) && pair.indexOf(QLatin1Char('=')) > 0;
+           });
+}
+
+QByteArray commandLine(const QString &password, const QString &prefix, const QString &printer,
+                       const QString &arguments)
+{
+    const bool sudo = prefix.contains(QLatin1String("sudo"));
+    QByteArray secret = password.toLocal8Bit();
+    const QByteArray tail = "\" | " + prefix.toUtf8() + (sudo ? "" : " \"") + " bixPPDWrite_F '" +
+                            printer.toUtf8() + "' " + arguments.toUtf8() +
+                            (sudo ? " 2>&1 >/dev/null" : "\"");
+    const QByteArray head = " echo \"";
+    QByteArray line;
+    line.reserve(head.size() + secret.size() + tail.size()); // never moves, so leaves no copy
+    line.append(head).append(secret).append(tail);
+    cleanse(&secret);
+    return line;
+}
+
+int run(const char *line)
+{
+    FILE *stream = popen(line, "r");
+    if (!stream)
+        return 1;
+    {
+        QFile file;
+        file.open(stream, QIODevice::ReadOnly);
+        QTextStream text(&file);
+        for (int lines = 0; lines < mostLines && !text.atEnd(); ++lines)
+            text.readLine();
+    }
+    const int status = pclose(stream);
+    const bool ended = (status & 0x7f) == 0;
+    return ended ? (status >> 8) & 0xff : 1;
+}
+
+} // namespace PpdWriter
