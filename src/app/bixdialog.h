@@ -1,0 +1,98 @@
+#pragma once
+
+#include "widgets/paneldialog.h"
+
+#include <QList>
+
+#include <memory>
+
+class AboutDialog;
+class BixTabWidget;
+class GeneralTab;
+class ImagingTab;
+class PrinterTab;
+class ProfileDialog;
+class ProfileSaveDialog;
+class Publication;
+class QDialogButtonBox;
+class QPushButton;
+class SettingsCollector;
+class Tab;
+class UserLoginTab;
+
+/// The main window: the option pages, and the three passes that everything runs through.
+///
+/// A printer change reloads all pages from the printer's settings file. A constraint pass follows
+/// each change: pages move off blocked values, which may block others, so it repeats itself until
+/// nothing moves, ten times at most; any mark left holds back OK and Apply. Apply publishes.
+///
+/// After each pass the queues of the print system are compared with the known ones, and a printer
+/// that is gone is unselected: after every call that may look, `currentStore` may be null.
+class BixDialog : public PanelDialog
+{
+    Q_OBJECT
+
+public:
+    explicit BixDialog(QWidget *parent = nullptr);
+    ~BixDialog() override;
+
+    void recordInstalledValues() override;
+    void showApplied() override;
+
+public slots:
+    void writeTolpoptions() override;
+    void setConstraints() override;
+    void toggleColorMode() override;
+
+private slots:
+    void accept() override;
+    void unselectPrinters();
+    void slotButtonApply();
+    void printerChanged(int row, int collumn, int previousRow, int previousCollumn);
+
+public slots:
+    void profileChanged() override;
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    /// The Tab key stays within a page.
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    static void refuseRoot(const QString &title);
+    void askAboutCollection();
+    void setBackground();
+    void createPages();
+    void createButtons();
+    void createProfileDialogs();
+    void createTabs();
+    void createLayout();
+    void styleTabs();
+    void enableTabs();
+    void setButtonsEnabled(bool on);
+    void setProfileButtonsEnabled(bool on);
+    void changeInstalledOptions();
+    void showFailedPublication();
+    bool checkPrinters();
+    bool hasMarks() const;
+    void markPage(int index);
+
+    int constraintPasses = 0;      ///< how often setConstraints() has repeated itself in a row
+    bool reloadPrinterTab = false; ///< only during the reload of a printer change
+    bool published = false;        ///< the last publication reached its end
+    QPushButton *saveAsButton;
+    QPushButton *profilesButton;
+    QPushButton *logoButton;
+    ProfileDialog *profileDialog;
+    ProfileSaveDialog *profileSaveDialog;
+    BixTabWidget *tabWidget;
+    QDialogButtonBox *buttonBox;
+    QList<Tab *> pages; ///< all shown pages in tab order
+    AboutDialog *aboutDialog;
+    PrinterTab *printerTab;
+    GeneralTab *generalTab;
+    ImagingTab *imagingTab;
+    UserLoginTab *userLoginTab; ///< in no list: its settings reach no file, and it never shows
+    std::unique_ptr<SettingsCollector> collector;
+    std::unique_ptr<Publication> publication;
+};

@@ -1,0 +1,36 @@
+#include "app/bixdialog.h"
+#include "app/language.h"
+#include "app/telemetryoption.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLocale>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QTranslator>
+
+int main(int argc, char **argv)
+{
+    runTelemetryOption(argc, argv);
+
+    // Only before the application object.
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    // The window brings its own light background, so its texts can't follow a dark desktop.
+    QApplication::setPalette(QApplication::style()->standardPalette());
+    QApplication::setWindowIcon(QIcon(QPixmap(QStringLiteral(":/icons/appicon"))));
+
+    QTranslator translator;
+    const QString locale = QLocale::system().name();
+    // A catalogue that can't be loaded leaves the program in English.
+    translator.load(catalogueForLocale(locale));
+    QApplication::installTranslator(&translator);
+    lookUpStandardButtons(translator);
+    alignPrintSystemLanguage(locale);
+
+    BixDialog dialog;
+    dialog.show();
+    return QApplication::exec();
+}

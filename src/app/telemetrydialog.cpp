@@ -1,0 +1,94 @@
+#include "app/telemetrydialog.h"
+
+#include "storage/settingsfile.h"
+
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QLabel>
+#include <QLocale>
+#include <QRadioButton>
+#include <QTextEdit>
+#include <QTextStream>
+#include <QVBoxLayout>
+
+namespace {
+
+const QLatin1String consent("Telemetry=True");
+const QLatin1String refusal("Telemetry=False");
+
+/// The policy in the language of a locale such as "de_DE", in English if there is none.
+QString policyText(const QString &localeName)
+{
+    const QStringList translations{QStringLiteral("fr"), QStringLiteral("de"), QStringLiteral("it"),
+                                   QStringLiteral("pt"), QStringLiteral("es")};
+    const QString language = localeName.section(QLatin1Char('_'), 0, 0);
+    QString resource = QStringLiteral(":/strings/policy");
+    if (translations.contains(language))
+        resource += QLatin1Char('_') + language;
+    QFile file(resource);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+} // namespace
+
+TelemetryDialog::TelemetryDialog(QWidget *parent)
+    : QDialog(parent)
+{
+    setWindowTitle(tr("Data Collection"));
+    setFixedSize(650, 450);
+
+    auto *request = new QLabel(tr("We ask you to help improve our application and/or products by "
+                                  "providing usage information."),
+                               this);
+    request->setWordWrap(true);
+    const QString promise = tr("The application DOES NOT collect any personal data.");
+    auto *promiseLabel =
+        new QLabel(QStringLiteral("<b>") + promise.toHtmlEscaped() + QStringLiteral("</b>"), this);
+    promiseLabel->setTextFormat(Qt::RichText);
+    auto *policyLabel = new QLabel(
+        tr("Regarding data collection, please read the PRIVACY POLICY as follows."), this);
+    policyLabel->setWordWrap(true);
+
+    auto *policy = new QTextEdit(this);
+    policy->setReadOnly(true);
+    policy->setAutoFormatting(QTextEdit::AutoNone);
+    policy->setPlainText(policyText(QLocale::system().name()));
+    policyLabel->setBuddy(policy); // names it for screen readers
+
+    yesButton = new QRadioButton(tr("Yes, I want to help improve your products"), this);
+    noButton = new QRadioButton(tr("No, I do not wish to take part in this feature"), this);
+
+    auto *buttonBox = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    connect(buttonBox, &QDialogButtonBox::accepted, this, &TelemetryDialog::accept);
+    connect(buttonBox, &QDialogButtonBox::rejected, this, &TelemetryDialog::reject);
+
+    auto *layout = new QVBoxLayout(this);
+    for (QWidget *widget : std::initializer_list<QWidget *>{request, promiseLabel, policyLabel,
+                                                            policy, yesButton, noButton, buttonBox})
+        layout->addWidget(widget);
+}
+
+bool TelemetryDialog::isTelemetryOn() const
+{
+    QFile settings(settingsPath());
+    if (!settings.open(QIODevice::ReadOnly))
+        return true;
+    return settings.readAll().contains(consent.data());
+}
+
+int TelemetryDialog::exec()
+{
+    (isTelemetryOn() ? yesButton : noButton)->setChecked(true);
+    return QDialog::exec();
+}
+
+void TelemetryDialog::accept()
+{
+    QFile settings(settingsPath());
+    // Not truncated: other entries may stand below.
+    if (settings.open(QIODevice::ReadWrite)) {
+        QTextStream stream(&settings);
+        stream << (yesButton->isChecked() ? consent : refusal) << '\n';
+    }
+    QDialog::accept();
+}

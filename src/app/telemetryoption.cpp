@@ -1,0 +1,51 @@
+#include "app/telemetryoption.h"
+
+#include "storage/settingsfile.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cstdlib>
+#include <string_view>
+
+namespace {
+
+bool isTelemetryOption(std::string_view argument)
+{
+    return argument == "--telemetry" || argument == "-t";
+}
+
+/// The line to record; null for an answer that is none of the four words.
+const char *lineForAnswer(std::string_view answer)
+{
+    if (answer == "True" || answer == "true")
+        return "Telemetry=True\n";
+    if (answer == "False" || answer == "false")
+        return "Telemetry=False\n";
+    return nullptr;
+}
+
+/// Replaces the "Settings" file by the answer. The directory is made for any answer.
+void record(std::string_view answer)
+{
+    QFile settings(settingsPath());
+    const char *line = lineForAnswer(answer);
+    if (line && settings.open(QIODevice::ReadWrite | QIODevice::Truncate))
+        settings.write(line);
+}
+
+} // namespace
+
+void runTelemetryOption(int argc, char **argv)
+{
+    char **const end = argv + argc;
+    char **const option = argc < 2 ? end : std::find_if(argv + 1, end, isTelemetryOption);
+    if (option == end)
+        return;
+    char **const answer = option + 1;
+    if (answer == end)
+        std::exit(0);
+
+    record(*answer);
+    std::exit(0);
+}

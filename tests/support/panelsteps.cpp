@@ -1,0 +1,156 @@
+#include "panelsteps.h"
+
+#include <QFile>
+#include <QProcess>
+
+namespace {
+
+constexpr char printers[] = "tblPrinters";
+
+bool isGroup(const QString &widget)
+{
+    return widget.startsWith(QLatin1String("but"));
+}
+
+} // namespace
+
+const QStringList noMessage;
+const QStringList applied{QStringLiteral("Success"), QStringLiteral("Settings applied.")};
+const QStringList nothingSelected{QString(), QStringLiteral("Select a printer.")};
+const QStringList notPublished{
+    QStringLiteral("Error"), QStringLiteral("Error: Printer does not exist or lpoptions failed.")};
+const QStringList printersChanged{
+    QStringLiteral("Error"),
+    QStringLiteral("It looks like your installed printers have changed.\nReloading list now.")};
+
+const QStringList onlyPrinterPage{QStringLiteral("Printer")};
+
+// Files
+
+QDir userFolder()
+{
+    return QDir(QStringLiteral("/usr/share/brixola/tester"));
+}
+
+QString cfgFile(const QString &printer)
+{
+    return userFolder().filePath(printer + QStringLiteral(".cfg"));
+}
+
+QString lpoptionsFile()
+{
+    return QDir::home().filePath(QStringLiteral(".cups/lpoptions"));
+}
+
+bool makeUserFolder()
+{
+    QFile::remove(lpoptionsFile());
+    return userFolder().removeRecursively() && userFolder().mkpath(QStringLiteral(".")) &&
+           writeFile(userFolder().filePath(QStringLiteral("Settings")), "Telemetry=False\n");
+}
+
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool writeFile(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+}
+
+QStringList savedLines(const QString &printer)
+{
+    return QString::fromUtf8(contents(cfgFile(printer))).split(QLatin1Char('\n'));
+}
+
+QStringList publishedOptions(const QString &printer)
+{
+    QProcess lpoptions;
+    lpoptions.start(QStringLiteral("lpoptions"), {QStringLiteral("-p"), printer});
+    lpoptions.waitForFinished();
+    return QString::fromUtf8(lpoptions.readAll()).simplified().split(QLatin1Char(' '));
+}
+
+QStringList missing(QStringList wanted, const QStringList &lines)
+{
+    for (const QString &line : lines)
+        wanted.removeAll(line);
+    return wanted;
+}
+
+// The panel
+
+QString Panel::complaints;
+
+Panel::Panel()
+    : PanelDriver(QStringLiteral(PRESSDESK_PROGRAM))
+{
+}
+
+Panel::~Panel()
+{
+    complaints += standardError();
+}
+
+bool Panel::startWith(const QString &printer)
+{
+    complaints += standardError(); // of the run before, if any
+    return start() && select(printer);
+}
+
+bool Panel::select(const QString &printer)
+{
+    return clickRow(printers, printer);
+}
+
+bool Panel::answer()
+{
+    return waitFor([this] { return messageBox().shown; }, QStringLiteral("a message")) && ok();
+}
+
+PanelWidget Panel::standardButton(const char *name)
+{
+    return PanelWidget::standardButton(QLatin1String(name));
+}
+
+QStringList Panel::message()
+{
+    const PanelMessageBox box = messageBox();
+    return box.shown ? QStringList{box.title, box.text} : noMessage;
+}
+
+QStringList Panel::rowsOf(int column)
+{
+    QStringList texts;
+    const QVector<QStringList> rows = table(printers).rows;
+    for (const QStringList &row : rows)
+        texts.append(row.value(column));
+    return texts;
+}
+
+bool Panel::hasSelection()
+{
+    const PanelTable table = this->table(printers);
+    return table.currentRow != -1 || !table.selectedRows.isEmpty() ||
+           windowTitle() != QLatin1String("Brixola Press Desk");
+}
+
+bool Panel::set(const Value &value)
+{
+    return isGroup(value.first) ? clickGroupButton(value.first, value.second)
+                                : choose(value.first, value.second);
+}
+
+bool Panel::canSet(const Value &value)
+{
+    if (!isGroup(value.first))
+        return enabledItems(value.first).contains(value.second);
+    const QJsonArray buttons = state(value.first).value(QLatin1String("buttons")).toArray();
+    for (const QJsonValue &button : buttons)
+        if (button[QLatin1String("name")] == value.second)
+            return button[QLatin1String("enabled")].toBool();
+    return false;
+}
