@@ -13,19 +13,28 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <algorithm>
 #include <cstdlib>
 #include <functional>
+#include <iterator>
 #include <vector>
 
 namespace {
 
 constexpr char printerName[] = "Office_C3";
 
-// Pages by their place in the tab bar, since their titles depend on the language.
-enum Page
+// The pages behind the Basic page by their place in the tab bar, since their titles depend on the
+// language.
+struct OtherPage
 {
-    PrinterPage,
-    BasicPage
+    int tab;
+    const char *picture;
+};
+
+constexpr int basicTab = 1;
+constexpr OtherPage otherPages[] = {
+    {2, "layout"}, {3, "finishing"}, {4, "imaging"},      {5, "publishing"},
+    {6, "job"},    {7, "watermark"}, {8, "fleet-keeper"},
 };
 
 QTextStream &out()
@@ -54,12 +63,13 @@ public:
             {"select the printer", [this] { return m_panel.clickRow("tblPrinters", printerName); }},
             {"picture of the selected printer", [this] { return picture("printer"); }},
 
-            {"go to the Basic page", [this] { return m_panel.clickTab(BasicPage); }},
+            {"go to the Basic page", [this] { return m_panel.clickTab(basicTab); }},
             {"picture of the Basic page", [this] { return picture("basic"); }},
             {"print on A5", [this] { return m_panel.choose("cmbBxPageSize", "A5"); }},
             {"print on both sides, long edge",
              [this] { return m_panel.clickGroupButton("butGroupDuplex", 1); }},
             {"picture of the changed Basic page", [this] { return picture("basic-changed"); }},
+            {"pictures of the other pages", [this] { return pictureOtherPages(); }},
 
             {"apply", [this] { return press("Apply"); }},
             {"picture of the confirmation", [this] { return picture("applied"); }},
@@ -104,6 +114,14 @@ private:
                                  .arg(name);
         m_pictures.append(file);
         return m_panel.grabScreen(m_folder.filePath(file));
+    }
+
+    bool pictureOtherPages()
+    {
+        return std::all_of(std::begin(otherPages), std::end(otherPages),
+                           [this](const OtherPage &page) {
+                               return m_panel.clickTab(page.tab) && picture(page.picture);
+                           });
     }
 
     bool press(const QString &button) { return m_panel.click(PanelWidget::standardButton(button)); }

@@ -413,7 +413,7 @@ Les informations de connexion et les règles seront de nouveau vérifiées lors 
     </message>
     <message>
         <source>Imaging</source>
-        <translation>Qualité d&apos;image</translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Print quality</source>
@@ -859,7 +859,7 @@ Par exemple : %1</translation>
     </message>
     <message>
         <source>Imaging</source>
-        <translation>Qualité d&apos;image</translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Trapping</source>
