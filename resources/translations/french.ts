@@ -255,7 +255,7 @@ Les informations de connexion et les règles seront de nouveau vérifiées lors 
     </message>
     <message>
         <source>Staple:</source>
-        <translation>Agrafage :</translation>
+        <translation>Agrafage:</translation>
     </message>
     <message>
         <source>Punch</source>
@@ -275,7 +275,7 @@ Les informations de connexion et les règles seront de nouveau vérifiées lors 
     </message>
     <message>
         <source>Staple location:</source>
-        <translation>Position d&apos;agrafage :</translation>
+        <translation>Position d&apos;agrafage:</translation>
     </message>
     <message>
         <source>Staple method</source>
@@ -283,7 +283,7 @@ Les informations de connexion et les règles seront de nouveau vérifiées lors 
     </message>
     <message>
         <source>Punch Method:</source>
-        <translation>Type de perforation :</translation>
+        <translation>Type de perforation:</translation>
     </message>
     <message>
         <source>Finishing</source>
