@@ -4,6 +4,21 @@
 #include <QStyleOptionTab>
 #include <QStylePainter>
 
+#include <algorithm>
+
+namespace {
+
+constexpr int iconHeight = 30;
+
+/// The middle of a row. At a higher pixel density an icon would fill the whole height of it.
+QRect iconRow(const QRect &row)
+{
+    const int spare = std::max(0, row.height() - iconHeight);
+    return row.adjusted(0, spare / 2, 0, spare / 2 - spare);
+}
+
+} // namespace
+
 BixTabBar::BixTabBar(QWidget *parent)
     : QTabBar(parent)
 {
@@ -28,6 +43,6 @@ void BixTabBar::paintEvent(QPaintEvent *)
         QRect place = option.rect.adjusted(iconWidth + 17, 3, 0, -3);
         painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, text);
         place.setLeft(place.left() - (iconWidth + 10));
-        icon.paint(&painter, place, Qt::AlignLeft | Qt::AlignVCenter, QIcon::Active);
+        icon.paint(&painter, iconRow(place), Qt::AlignLeft | Qt::AlignVCenter, QIcon::Active);
     }
 }
