@@ -27,6 +27,8 @@ sample_queues=(
     Dual_Path     px-dual.ppd
     Lobby_Generic generic.ppd
 )
+# What is fitted to Office_C3 before anybody looks at it ("with"), so that all pages can be used.
+office_hardware=(Option17=Finisher2 Option18=HardDisk Option19=True Option22=True)
 
 fail()
 {
@@ -143,6 +145,13 @@ add()
         fail_with_log "queue $name: $message"
 }
 
+fit()
+{
+    local name=$1 message
+    shift
+    message=$(lpadmin -p "$name" "${@/#/-o}" 2>&1) || fail_with_log "queue $name: $message"
+}
+
 remove()
 {
     local message
@@ -175,6 +184,7 @@ run_with_server()
     start >/dev/null
     trap stop EXIT
     add_sample_queues
+    fit Office_C3 "${office_hardware[@]}"
     "$@"
 }
 
