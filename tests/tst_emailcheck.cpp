@@ -22,32 +22,23 @@ void TestEmailCheck::finds_data()
 
     row("ordinary", "jo@office.example.com", EmailFault::None);
     row("shortest", "a@b.c", EmailFault::None);
-    row("signs", "a+b_c%d-e=f@x-y.z", EmailFault::None);
     row("dot behind the at", "a@.b", EmailFault::None);
 
     row("quote", "\"jo\"@x.y", EmailFault::DoubleQuote);
-    row("quote alone", "\"", EmailFault::DoubleQuote);
     row("quote behind the limit", longName + "@host.y 12\"", EmailFault::DoubleQuote);
     row("nothing", "", EmailFault::Empty);
-    row("null", QString(), EmailFault::Empty);
     row("no at", "jo.example.com", EmailFault::Format);
     row("no at is told before a blank", "jo example", EmailFault::Format);
-    row("no at is told before an umlaut", QString::fromUtf8("jö"), EmailFault::Format);
     row("blank", "jo doe@x.y", EmailFault::Blank);
-    row("blank at the end", "jo@x.y ", EmailFault::Blank);
     row("blank is told before an umlaut", QString::fromUtf8("jö doe@x.y"), EmailFault::Blank);
     row("umlaut", QString::fromUtf8("jö@x.y"), EmailFault::NotAscii);
     row("umlaut is told before the format", QString::fromUtf8("@jö"), EmailFault::NotAscii);
-    row("cyrillic", QString::fromUtf8("ж@x.y"), EmailFault::NotAscii);
     row("at first", "@x.y", EmailFault::Format);
     row("at last", "jo.doe@", EmailFault::Format);
-    row("at alone", "@", EmailFault::Format);
     row("two ats", "jo@x@y.z", EmailFault::Format);
-    row("two ats in a row", "jo@@x.y", EmailFault::Format);
     row("dot before the at", "jo.@x.y", EmailFault::Format);
     row("leading dot", ".jo@x.y", EmailFault::Format);
     row("two dots in the name", "jo..doe@x.y", EmailFault::Format);
-    row("two dots in the host", "jo@x..y", EmailFault::Format);
     row("no dot behind the at", "jo.doe@host", EmailFault::Format);
     row("trailing dot", "jo@x.y.", EmailFault::Format);
 
