@@ -396,11 +396,8 @@ void PublishingTab::loadCover()
 void PublishingTab::loadPageInsert()
 {
     loadMode(PageInsert, "BqPageInsertEnabled");
-    const QString pages = readSetting(QStringLiteral("BqPageinsertNums"));
-    if (!pages.isEmpty()) {
-        pagesEdit->setText(pages);
-        checkPageInsertInputText();
-    }
+    pagesEdit->setText(readSetting(QStringLiteral("BqPageinsertNums")));
+    checkPageInsertInputText();
     const int code = qMax(0, readSetting(QStringLiteral("BqPageinsertValue")).toInt());
     prints[InsertFront]->setChecked(code & 1);
     prints[InsertBack]->setChecked(code & 2);
