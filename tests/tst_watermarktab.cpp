@@ -33,9 +33,9 @@ const char *const listNames[] = {"cmbBxWFnt", "cmbBxWsze",   "cmbBxClr",
                                  "cmbBxWang", "cmbBxWtrans", "cmbBxWtyp"};
 const QString usualLook = "0 8 3 23 0 0 0";
 /// A file with one text of the user's own.
-const QString ownSettings = "Wren=True\nCustomWatermarkStore=own=1 2 0 4 1 1 1\n";
 const QString ownLook = "1 2 0 4 1 1 1";
-const QString ownSelected = ownSettings + "CustomWatermarkSet=own\n";
+const QString ownSettings = "Wren=True; CustomWatermarkStore=own=" + ownLook;
+const QString ownSelected = ownSettings + "; CustomWatermarkSet=own";
 
 class Page : public WatermarkTab
 {
@@ -43,16 +43,6 @@ public:
     using WatermarkTab::WatermarkTab;
 
     ComboBoxEx *list(const char *name) const { return findNamed<ComboBoxEx>(this, name); }
-    QLineEdit *name() const { return findNamed<QLineEdit>(this, "lnEditCustomWatermark"); }
-    QCheckBox *repeat() const { return findNamed<QCheckBox>(this, "chkBxWFlg"); }
-    BixCheckBoxButton *watermark() const
-    {
-        return findNamed<BixCheckBoxButton>(this, "chkButWatermark");
-    }
-    BixCheckBoxButton *super() const
-    {
-        return findNamed<BixCheckBoxButton>(this, "chkButSuperWatermark");
-    }
     QPushButton *button(const QString &name) const
     {
         return findNamed<QPushButton>(this, qPrintable("but" + name + "CustomWatermark"));
@@ -74,51 +64,49 @@ public:
         QString numbers;
         for (const char *name : listNames)
             numbers += QString::number(list(name)->currentIndex()) + ' ';
-        return numbers + (repeat()->isChecked() ? '1' : '0');
+        return numbers + (repeat->isChecked() ? '1' : '0');
     }
     void setLook(const QString &look)
     {
         for (int i = 0; i < 6; ++i)
             list(listNames[i])->setCurrentIndex(look.section(' ', i, i).toInt());
-        repeat()->setChecked(look.endsWith('1'));
+        repeat->setChecked(look.endsWith('1'));
     }
-    void create(const QString &text, const QString &look = usualLook)
+    void create(const QString &text, const QString &look)
     {
         setLook(look);
-        name()->setText(text);
+        nameEdit->setText(text);
         button("New")->click();
     }
     QString superState() const
     {
         const ComboBoxEx *kinds = list("cmbBxSuperWatermark");
-        return QString(super()->isEnabled() ? "" : "disabled ") +
-               (super()->isChecked() ? "on " : "off ") + (kinds->isEnabled() ? "" : "-") +
+        return QString(super->isEnabled() ? "" : "disabled ") +
+               (super->isChecked() ? "on " : "off ") + (kinds->isEnabled() ? "" : "-") +
                kinds->currentText();
     }
     /// All that the user sees.
-    QStringList state() const
+    QString state() const
     {
-        return {watermark()->isChecked() ? "on" : "off",
-                text(),
-                look(),
-                ownTexts(),
-                name()->text(),
-                superState()};
+        const QString on = watermark->isChecked() ? "on" : "off";
+        return QStringList({on, text(), look(), ownTexts(), nameEdit->text(), superState()})
+            .join(',');
     }
+
+    BixCheckBoxButton *watermark = findNamed<BixCheckBoxButton>(this, "chkButWatermark");
+    BixCheckBoxButton *super = findNamed<BixCheckBoxButton>(this, "chkButSuperWatermark");
+    QLineEdit *nameEdit = findNamed<QLineEdit>(this, "lnEditCustomWatermark");
+    QCheckBox *repeat = findNamed<QCheckBox>(this, "chkBxWFlg");
 };
 
 struct Panel
 {
-    explicit Panel(const QString &settings, const QString &options = allOptions)
-    {
-        load(settings, options);
-    }
+    explicit Panel(const QString &settings) { load(settings); }
     void load(const QString &settings, const QString &options = allOptions)
     {
-        dialog.selectPrinter(options, settings);
+        dialog.selectPrinter(options, QString(settings).replace("; ", "\n"));
         page->reload();
     }
-    QString current(const char *keyword) const { return RecordingDialog::current(keyword); }
     const Settings &collect() { return collector.collect(); }
     /// The page after its settings went through a real file.
     std::unique_ptr<Page> restarted()
@@ -150,7 +138,6 @@ private slots:
     void newSaveAndDelete();
     void buttonsFollowTheName();
     void selectionBringsItsLook();
-    void appliedLookIsKept();
     void switchingOff();
     void colors();
     void superWatermark();
@@ -160,28 +147,19 @@ private slots:
 
 void TestWatermarkTab::loadsTexts_data()
 {
-    QTest::addColumn<QString>("settings");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("own");
-    QTest::addColumn<QString>("look");
-    const auto row = [](const char *name, const QString &settings, const QString &text,
-                        const QString &own, const QString &look = usualLook) {
-        QTest::newRow(name) << "Wren=True\n" + settings << text << own << look;
-    };
-    const QString store = "CustomWatermarkStore=";
-    const QString zeros = "0 0 0 0 0 0 0";
-    row("nothing saved", "", "CONFIDENTIAL", "");
-    row("built-in text has the usual look", "Wtxt=Draft\nWfnt=Times\nWflg=True", "DRAFT", "");
-    row("own text", store + "b=1 2 0 4 1 1 1\nCustomWatermarkSet=b\nWtxt=\"b\"", "b", "b", ownLook);
-    row("sorted by case", store + "b=\n" + store + "a=\n" + store + "B=", "CONFIDENTIAL", "B a b");
-    row("one of them twice", store + "b=1\n" + store + "b=2\nCustomWatermarkSet=b", "b", "b",
-        "2 0 0 0 0 0 0");
-    row("selected text is gone", store + "b=\nCustomWatermarkSet=c\nWtxt=Draft", "DRAFT", "b");
-    row("named as a built-in one", store + "DRAFT=1 2 0 4 1 1 1\nWtxt=Draft", "DRAFT", "", ownLook);
-    row("no numbers", store + "b\n" + store + "c=\nCustomWatermarkSet=c", "c", "b c", zeros);
-    row("no name", store + "=1 2\n" + store + "\n" + store + "c=", "CONFIDENTIAL", "c");
-    row("numbers the lists lack", store + "b=3 12 -1 30 2147483647 -5 -1\nCustomWatermarkSet=b",
-        "b", "b", "0 0 3 0 0 0 0");
+    // "own:" stands for a line with a text of the user's own.
+    addRows({"settings", "text", "own", "look"}, R"(
+nothing saved         |                                                         | CONFIDENTIAL |       | 0 8 3 23 0 0 0
+usual look            | Wtxt=Draft; Wfnt=Times; Wflg=True                       | DRAFT        |       | 0 8 3 23 0 0 0
+own text              | own:b=1 2 0 4 1 1 1; CustomWatermarkSet=b; Wtxt="b"     | b            | b     | 1 2 0 4 1 1 1
+sorted by case        | own:b=; own:a=; own:B=                                  | CONFIDENTIAL | B a b | 0 8 3 23 0 0 0
+one of them twice     | own:b=1; own:b=2; CustomWatermarkSet=b                  | b            | b     | 2 0 0 0 0 0 0
+selected text is gone | own:b=; CustomWatermarkSet=c; Wtxt=Draft                | DRAFT        | b     | 0 8 3 23 0 0 0
+named as a built-in   | own:DRAFT=1 2 0 4 1 1 1; Wtxt=Draft                     | DRAFT        |       | 1 2 0 4 1 1 1
+no numbers            | own:b; own:c=; CustomWatermarkSet=c                     | c            | b c   | 0 0 0 0 0 0 0
+no name               | own:=1 2; own:; own:c=                                  | CONFIDENTIAL | c     | 0 8 3 23 0 0 0
+what the lists lack   | own:b=3 12 -1 30 2147483647 -5 -1; CustomWatermarkSet=b | b            | b     | 0 0 3 0 0 0 0
+)");
 }
 
 void TestWatermarkTab::loadsTexts()
@@ -189,7 +167,7 @@ void TestWatermarkTab::loadsTexts()
     QFETCH(QString, settings);
     Panel panel(ownSelected); // a printer before, of whose texts nothing may be left
     QCOMPARE(panel.page->text(), QString("own"));
-    panel.load(settings);
+    panel.load("Wren=True; " + settings.replace("own:", "CustomWatermarkStore="));
     QTEST(panel.page->text(), "text");
     QTEST(panel.page->ownTexts(), "own");
     QTEST(panel.page->look(), "look");
@@ -200,22 +178,18 @@ void TestWatermarkTab::loadsTexts()
 
 void TestWatermarkTab::comesBackAfterRestart_data()
 {
-    QTest::addColumn<QString>("own");   // created first; empty: none
-    QTest::addColumn<QString>("text");  // selected; empty: the watermark is off
-    QTest::addColumn<QString>("super"); // empty: off
-    QTest::addColumn<QString>("words"); // of the command that publishes the text
-    const auto row = [](const char *name, const QString &own, const QString &text,
-                        const char *super, const QString &words) {
-        QTest::newRow(name) << own << text << super << words;
-    };
-    row("all off", "", "", "", "Wtxt=Confidential");
-    row("built-in text", "", "DO NOT PHOTOCOPY", "Scattered", "Wtxt=DoNotPhotoCopy");
-    row("own text, another selected", "x", "PROOF", "Uniform", "Wtxt=Proof");
-    row("own text, switched off", "x", "", "", "Wtxt=Confidential");
-    row("two words", "Top secret", "Top secret", "", R"(Wtxt=Top\ secret)");
-    row("all that is escaped", "a@b $5!", "a@b $5!", "", R"(Wtxt=a\@b\ \$5\!)");
-    row("name with =", "a=b=1 2", "a=b=1 2", "", R"(Wtxt=a=b=1\ 2)");
-    row("emoji and placeholders", "🖨%1%2", "🖨%1%2", "", "Wtxt=🖨%1%2");
+    // Created first; selected, or the watermark is off; the kind of super watermark; what of it
+    // the publishing command passes on.
+    addRows({"own", "text", "super", "words"}, R"(
+all off                |            |                  |           | Wtxt=Confidential
+built-in text          |            | DO NOT PHOTOCOPY | Scattered | Wtxt=DoNotPhotoCopy
+own text, not selected | x          | PROOF            | Uniform   | Wtxt=Proof
+own text, switched off | x          |                  |           | Wtxt=Confidential
+two words              | Top secret | Top secret       |           | Wtxt=Top\ secret
+all that is escaped    | a@b $5!    | a@b $5!          |           | Wtxt=a\@b\ \$5\!
+name with =            | a=b=1 2    | a=b=1 2          |           | Wtxt=a=b=1\ 2
+emoji and placeholders | 🖨%1%2      | 🖨%1%2            |           | Wtxt=🖨%1%2
+)");
 }
 
 void TestWatermarkTab::comesBackAfterRestart()
@@ -229,17 +203,17 @@ void TestWatermarkTab::comesBackAfterRestart()
     if (!own.isEmpty())
         panel.page->create(own, look);
     panel.page->select(text);
-    panel.page->watermark()->setChecked(!text.isEmpty());
-    panel.page->super()->setChecked(!super.isEmpty());
+    panel.page->watermark->setChecked(!text.isEmpty());
+    panel.page->super->setChecked(!super.isEmpty());
     panel.page->list("cmbBxSuperWatermark")->setCurrentText(super);
-    const QStringList state = panel.page->state();
+    const QString state = panel.page->state();
     const QString command = Publication::command("Office", {"Wtxt", "Wflg"}, panel.collect());
     QCOMPARE(QProcess::splitCommand(command).mid(3, 3), QStringList({"-o", words, "-o"}));
 
     const auto fresh = panel.restarted();
     QCOMPARE(fresh->state(), state);
     if (!own.isEmpty()) {
-        fresh->watermark()->setChecked(true);
+        fresh->watermark->setChecked(true);
         fresh->select(own);
         QCOMPARE(fresh->look(), look);
     }
@@ -259,12 +233,12 @@ void TestWatermarkTab::newSaveAndDelete()
     page->select("new");
     QCOMPARE(page->look(), QString("1 1 1 1 1 1 0"));
 
-    page->name()->setText("third");
+    page->nameEdit->setText("third");
     page->button("Save")->click(); // under another name
     QCOMPARE(page->ownTexts() + ' ' + page->text(), QString("new own third third"));
     page->button("Delete")->click();
     QCOMPARE(page->ownTexts() + ' ' + page->text(), QString("new own CONFIDENTIAL"));
-    QCOMPARE(page->look() + page->name()->text(), usualLook);
+    QCOMPARE(page->look() + page->nameEdit->text(), usualLook);
     page->button("Save")->click(); // without a name
     QStringList lines = panel.collect().values("CustomWatermarkStore");
     lines.sort();
@@ -276,62 +250,59 @@ void TestWatermarkTab::buttonsFollowTheName()
 {
     Panel panel(ownSettings);
     const auto enabled = [&](const QString &name) {
-        panel.page->name()->setText(name);
-        QStringList names;
-        for (const QString button : {"New", "Save", "Delete"}) {
-            if (panel.page->button(button)->isEnabled())
-                names << button;
-        }
-        return names.join(' ');
+        panel.page->nameEdit->setText(name);
+        QString names;
+        for (const QString button : {"New", "Save", "Delete"})
+            names += panel.page->button(button)->isEnabled() ? button + ' ' : QString();
+        return names.trimmed();
     };
     QCOMPARE(enabled(""), QString("Save"));
     QCOMPARE(enabled("new"), QString("New Save"));
     QCOMPARE(enabled("own"), QString("Save Delete"));
     QCOMPARE(enabled("Own"), QString("New Save"));
     QCOMPARE(enabled("DRAFT"), QString("Save"));
-    panel.page->watermark()->setChecked(false);
+    panel.page->watermark->setChecked(false);
     QCOMPARE(enabled(""), QString());
 }
 
 void TestWatermarkTab::selectionBringsItsLook()
 {
     Panel panel(ownSettings);
-    panel.dialog.remark = [&] { return panel.current("Wtxt") + ' ' + panel.current("Wsze"); };
+    const auto selected = [&](const QString &text) {
+        panel.dialog.takeCalls();
+        panel.page->select(text);
+        return panel.page->nameEdit->text() + ' ' + panel.page->look() + ' ' +
+               panel.dialog.takeCalls().last();
+    };
+    panel.dialog.remark = [&] {
+        return panel.dialog.current("Wtxt") + ' ' + panel.dialog.current("Wsze");
+    };
+    QCOMPARE(selected("own"), "own " + ownLook + " setConstraints Confidential 20");
+    QCOMPARE(selected("DRAFT"), ' ' + usualLook + " setConstraints Draft 80");
+    // What the user changes is kept, but no name that is only typed.
     panel.page->select("own");
-    QCOMPARE(panel.page->name()->text() + ' ' + panel.page->look(), "own " + ownLook);
-    QCOMPARE(panel.dialog.takeCalls().value(1), QString("setConstraints Confidential 20"));
-    panel.page->select("DRAFT");
-    QCOMPARE(panel.page->name()->text() + panel.page->look(), usualLook);
-    QCOMPARE(panel.dialog.takeCalls().value(1), QString("setConstraints Draft 80"));
-}
-
-void TestWatermarkTab::appliedLookIsKept()
-{
-    Panel panel(ownSelected);
     panel.page->setLook("2 1 0 5 0 0 0");
-    panel.page->name()->setText("typed, but not saved");
+    panel.page->nameEdit->setText("typed, but not saved");
     QCOMPARE(panel.collect().values("CustomWatermarkStore"), QStringList("own=2 1 0 5 0 0 0"));
     QCOMPARE(panel.restarted()->look(), QString("2 1 0 5 0 0 0"));
 }
 
 void TestWatermarkTab::switchingOff()
 {
-    Panel panel(ownSelected, allOptions + "Wren=False Wflg=True\n");
+    Panel panel(ownSelected);
+    panel.load(ownSelected, allOptions + "Wren=False Wflg=True\n");
     for (const bool on : {true, false, true}) {
-        panel.page->watermark()->setChecked(on);
+        panel.page->watermark->setChecked(on);
         panel.page->enableOptions();
         for (const char *name : {"cmbBxWtxt", "cmbBxWFnt", "lblWFnt", "cmbBxClr", "chkBxWFlg",
                                  "lnEditCustomWatermark"})
             QVERIFY2(findNamed<QWidget>(panel.page, name)->isEnabled() == on, name);
-        if (!on)
-            QCOMPARE(panel.current("Wren") + panel.current("Wflg") + panel.current("Wsze"),
-                     QString("FalseFalse80"));
     }
-    // The list stands at its start now, and the field holds something.
-    panel.page->name()->setText("new");
-    panel.page->watermark()->setChecked(false);
-    QCOMPARE(panel.page->state(),
-             QStringList({"off", "CONFIDENTIAL", usualLook, "own", "", "off -Uniform"}));
+    panel.page->nameEdit->setText("new");
+    panel.page->watermark->setChecked(false);
+    QCOMPARE(panel.page->state(), QString("off,CONFIDENTIAL,0 8 3 23 0 0 0,own,,off -Uniform"));
+    for (const QString value : {"Wren=False", "Wflg=False", "Wsze=80"})
+        QCOMPARE(panel.dialog.current(value.section('=', 0, 0)), value.section('=', 1));
 }
 
 void TestWatermarkTab::colors()
@@ -367,18 +338,17 @@ void TestWatermarkTab::superWatermark()
         return panel.page->superState() + " = " +
                panel.page->collectSettings().value("BXSuperWatermark");
     };
-    QCOMPARE(loaded(superOption, ""), QString("off -Uniform = None"));
-    QCOMPARE(loaded(superOption, "UFOld"), QString("on Uniform = UFLight"));
     QCOMPARE(loaded(superOption, "uf"), QString("off -Uniform = None"));
+    QCOMPARE(loaded(superOption, "UFOld"), QString("on Uniform = UFLight"));
     QCOMPARE(loaded("A 9 B", "SFDark"), QString("disabled off - = "));
     QCOMPARE(loaded("BXSuperWatermark 9", "SFDark"), QString("disabled off - = "));
     QCOMPARE(loaded(superOption, "SFDark"), QString("on Scattered = SFDark"));
     QCOMPARE(panel.dialog.takeCalls(), QStringList());
-    panel.page->super()->setChecked(false);
-    QCOMPARE(panel.current("BXSuperWatermark"), QString("None"));
+    panel.page->super->setChecked(false);
+    QCOMPARE(panel.dialog.current("BXSuperWatermark"), QString("None"));
     QVERIFY(!panel.dialog.takeCalls().isEmpty());
-    panel.page->super()->setChecked(true);
-    QCOMPARE(panel.page->superState() + panel.current("BXSuperWatermark"),
+    panel.page->super->setChecked(true);
+    QCOMPARE(panel.page->superState() + panel.dialog.current("BXSuperWatermark"),
              QString("on UniformUFLight"));
 }
 
@@ -388,11 +358,11 @@ void TestWatermarkTab::defaultTextOfThePrinterBecomesCustom()
     QString options = allOptions;
     options.replace("Confidential/CONFIDENTIAL*", "Custom.Ours/Ours*");
     options.replace("Helvetica* Times", "Helvetica Outline Clear*");
-    Panel panel("Wren=True", options);
+    Panel panel("Wren=True");
     panel.dialog.selectPrinter(options, "Wren=True");
     selectValues(*currentStore, "Wtxt=Custom.Ours Wfnt=Clear Wtrans=Clear Wtyp=Solid Wclr=Black");
     panel.page->reload();
-    QCOMPARE(panel.page->text() + ' ' + panel.page->name()->text(), QString("Ours Ours"));
+    QCOMPARE(panel.page->text() + ' ' + panel.page->nameEdit->text(), QString("Ours Ours"));
     QCOMPARE(panel.page->look(), QString("2 0 3 0 0 0 0"));
     panel.load("Wren=True", QString(allOptions).remove("CONFIDENTIAL*")); // none at all
     QCOMPARE(panel.page->ownTexts(), QString());
@@ -403,11 +373,11 @@ void TestWatermarkTab::otherPrinters()
     // Without a switch nothing can be on, and without texts none is published; own ones are kept.
     Panel panel(ownSelected);
     panel.load(ownSelected, "Wsze 99 10 20*");
-    QVERIFY(panel.page->isAvailable() && !panel.page->watermark()->isChecked());
+    QVERIFY(panel.page->isAvailable() && !panel.page->watermark->isChecked());
     QVERIFY(!panel.page->list("cmbBxWsze")->isEnabled());
     panel.load(ownSelected, "Wren 2 False* True");
-    QVERIFY(panel.page->watermark()->isChecked());
-    QVERIFY(!panel.page->list("cmbBxWtxt")->isEnabled() && !panel.page->repeat()->isEnabled());
+    QVERIFY(panel.page->watermark->isChecked());
+    QVERIFY(!panel.page->list("cmbBxWtxt")->isEnabled() && !panel.page->repeat->isEnabled());
     QVERIFY(!panel.collect().contains("Wtxt"));
     QCOMPARE(panel.collect().value("CustomWatermarkStore"), "own=" + ownLook);
     panel.load("Wren=True", "Wren 2 False* True\nWtxt 99");
@@ -417,8 +387,8 @@ void TestWatermarkTab::otherPrinters()
     QVERIFY(!panel.page->isAvailable());
     currentStore = nullptr;
     panel.page->reload();
-    panel.page->watermark()->setChecked(true);
-    panel.page->create("x");
+    panel.page->watermark->setChecked(true);
+    panel.page->create("x", usualLook);
     QVERIFY(!panel.page->isAvailable() && panel.page->collectSettings().isEmpty());
 }
 
