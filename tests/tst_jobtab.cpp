@@ -536,7 +536,9 @@ void TestJobTab::settingsOfAnUntouchedPage()
                      "cJobAccount=False cJobStore=False cUserLogin=False"));
     QCOMPARE(lines(panel.page->extraSettings()).join(' '),
              QString("BqManagment=Default EMailNotification=off UserLogin=False"));
-    panel.load("cEmail 99 False True", "CustomAccountIDStore=5=five");
+    // Without job accounting the list of the printer before is no longer saved either.
+    panel.load(everything, "CustomAccountIDStore=5=five");
+    panel.load("cEmail 99 False True");
     QCOMPARE(lines(panel.page->extraSettings()).join(' '),
              QString("EMailNotification=off UserLogin=False"));
 }

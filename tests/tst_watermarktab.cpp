@@ -295,7 +295,7 @@ void TestWatermarkTab::switchingOff()
         panel.page->watermark->setChecked(on);
         panel.page->enableOptions();
         for (const char *name : {"cmbBxWtxt", "cmbBxWFnt", "lblWFnt", "cmbBxClr", "chkBxWFlg",
-                                 "lnEditCustomWatermark"})
+                                 "lblCustomWatermark", "lnEditCustomWatermark"})
             QVERIFY2(findNamed<QWidget>(panel.page, name)->isEnabled() == on, name);
     }
     panel.page->nameEdit->setText("new");
@@ -339,7 +339,7 @@ void TestWatermarkTab::superWatermark()
                panel.page->collectSettings().value("BXSuperWatermark");
     };
     QCOMPARE(loaded(superOption, "uf"), QString("off -Uniform = None"));
-    QCOMPARE(loaded(superOption, "UFOld"), QString("on Uniform = UFLight"));
+    QCOMPARE(loaded(superOption, "OldUF"), QString("on Uniform = UFLight"));
     QCOMPARE(loaded("A 9 B", "SFDark"), QString("disabled off - = "));
     QCOMPARE(loaded("BXSuperWatermark 9", "SFDark"), QString("disabled off - = "));
     QCOMPARE(loaded(superOption, "SFDark"), QString("on Scattered = SFDark"));
