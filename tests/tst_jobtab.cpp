@@ -1,6 +1,7 @@
 #include "app/settingscollector.h"
 #include "model/boption.h"
 #include "model/optionstore.h"
+#include "pages/buttoncaption.h"
 #include "pages/jobtab.h"
 #include "pages/jobtexts.h"
 #include "storage/passwordcipher.h"
@@ -225,10 +226,11 @@ private slots:
 
 void TestJobTab::captions()
 {
-    QCOMPARE(JobTexts::inTwoLines("User login"), QString("User login"));
-    QCOMPARE(JobTexts::inTwoLines("Job e-mail notification"), QString("Job e-mail\nnotification"));
-    QCOMPARE(JobTexts::inTwoLines("E-Mail-Nachricht"), QString("E-Mail-\nNachricht"));
-    QCOMPARE(JobTexts::inTwoLines("Auftragsabrechnung"), QString("Auftragsabrechnung"));
+    QCOMPARE(ButtonCaption::inTwoLines("User login"), QString("User login"));
+    QCOMPARE(ButtonCaption::inTwoLines("Job e-mail notification"),
+             QString("Job e-mail\nnotification"));
+    QCOMPARE(ButtonCaption::inTwoLines("E-Mail-Nachricht"), QString("E-Mail-\nNachricht"));
+    QCOMPARE(ButtonCaption::inTwoLines("Auftragsabrechnung"), QString("Auftragsabrechnung"));
     QLabel rich;
     JobTexts::setRichText(&rich, "One\\nA & B");
     QCOMPARE(rich.text(), QString("<font>One<br>A &amp; B</font>"));

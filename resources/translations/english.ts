@@ -1024,6 +1024,11 @@ For example: %1</translation>
         <translation>Cover mode:</translation>
     </message>
     <message>
+        <source>Cover mode:</source>
+        <comment>caption</comment>
+        <translation>Cover mode:</translation>
+    </message>
+    <message>
         <source>Media for cover:</source>
         <translation>Media for cover:</translation>
     </message>
@@ -1032,11 +1037,21 @@ For example: %1</translation>
         <translation>Page insert:</translation>
     </message>
     <message>
+        <source>Page insert:</source>
+        <comment>caption</comment>
+        <translation>Page insert:</translation>
+    </message>
+    <message>
         <source>Media for page:</source>
         <translation>Media for page:</translation>
     </message>
     <message>
         <source>Transparency interleaving:</source>
+        <translation>Transparency interleaving:</translation>
+    </message>
+    <message>
+        <source>Transparency interleaving:</source>
+        <comment>caption</comment>
         <translation>Transparency interleaving:</translation>
     </message>
     <message>

@@ -1024,6 +1024,11 @@ Par exemple : %1</translation>
         <translation>Mode couverture:</translation>
     </message>
     <message>
+        <source>Cover mode:</source>
+        <comment>caption</comment>
+        <translation>Couverture:</translation>
+    </message>
+    <message>
         <source>Media for cover:</source>
         <translation>Support de couverture:</translation>
     </message>
@@ -1032,12 +1037,22 @@ Par exemple : %1</translation>
         <translation>Insertion de pages:</translation>
     </message>
     <message>
+        <source>Page insert:</source>
+        <comment>caption</comment>
+        <translation>Encarts:</translation>
+    </message>
+    <message>
         <source>Media for page:</source>
         <translation>Support d&apos;insertion:</translation>
     </message>
     <message>
         <source>Transparency interleaving:</source>
         <translation>Intercalaires de transparents:</translation>
+    </message>
+    <message>
+        <source>Transparency interleaving:</source>
+        <comment>caption</comment>
+        <translation>Inter-calaires:</translation>
     </message>
     <message>
         <source>Media for backing:</source>

@@ -1024,6 +1024,11 @@ Zum Beispiel: %1</translation>
         <translation>Deckblattmodus:</translation>
     </message>
     <message>
+        <source>Cover mode:</source>
+        <comment>caption</comment>
+        <translation>Deckblatt:</translation>
+    </message>
+    <message>
         <source>Media for cover:</source>
         <translation>Medium für Deckblatt:</translation>
     </message>
@@ -1032,12 +1037,22 @@ Zum Beispiel: %1</translation>
         <translation>Einlageblätter:</translation>
     </message>
     <message>
+        <source>Page insert:</source>
+        <comment>caption</comment>
+        <translation>Einlagen:</translation>
+    </message>
+    <message>
         <source>Media for page:</source>
         <translation>Medium für Einlageblatt:</translation>
     </message>
     <message>
         <source>Transparency interleaving:</source>
         <translation>Folienzwischenblätter:</translation>
+    </message>
+    <message>
+        <source>Transparency interleaving:</source>
+        <comment>caption</comment>
+        <translation>Zwischen-blätter:</translation>
     </message>
     <message>
         <source>Media for backing:</source>

@@ -1024,6 +1024,11 @@ Ad esempio: %1</translation>
         <translation>Modalità copertina:</translation>
     </message>
     <message>
+        <source>Cover mode:</source>
+        <comment>caption</comment>
+        <translation>Copertina:</translation>
+    </message>
+    <message>
         <source>Media for cover:</source>
         <translation>Supporto per copertina:</translation>
     </message>
@@ -1032,12 +1037,22 @@ Ad esempio: %1</translation>
         <translation>Inserimento pagine:</translation>
     </message>
     <message>
+        <source>Page insert:</source>
+        <comment>caption</comment>
+        <translation>Inserti:</translation>
+    </message>
+    <message>
         <source>Media for page:</source>
         <translation>Supporto per inserto:</translation>
     </message>
     <message>
         <source>Transparency interleaving:</source>
         <translation>Interfogli per lucidi:</translation>
+    </message>
+    <message>
+        <source>Transparency interleaving:</source>
+        <comment>caption</comment>
+        <translation>Interfogli:</translation>
     </message>
     <message>
         <source>Media for backing:</source>

@@ -1024,6 +1024,11 @@ Por exemplo: %1</translation>
         <translation>Modo de capa:</translation>
     </message>
     <message>
+        <source>Cover mode:</source>
+        <comment>caption</comment>
+        <translation>Modo de capa:</translation>
+    </message>
+    <message>
         <source>Media for cover:</source>
         <translation>Papel da capa:</translation>
     </message>
@@ -1032,12 +1037,22 @@ Por exemplo: %1</translation>
         <translation>Inserção de páginas:</translation>
     </message>
     <message>
+        <source>Page insert:</source>
+        <comment>caption</comment>
+        <translation>Inserir páginas:</translation>
+    </message>
+    <message>
         <source>Media for page:</source>
         <translation>Papel da inserção:</translation>
     </message>
     <message>
         <source>Transparency interleaving:</source>
         <translation>Separar transparências:</translation>
+    </message>
+    <message>
+        <source>Transparency interleaving:</source>
+        <comment>caption</comment>
+        <translation>Separa-dores:</translation>
     </message>
     <message>
         <source>Media for backing:</source>

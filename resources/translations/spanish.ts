@@ -1024,6 +1024,11 @@ Por ejemplo: %1</translation>
         <translation>Modo de cubierta:</translation>
     </message>
     <message>
+        <source>Cover mode:</source>
+        <comment>caption</comment>
+        <translation>Modo de cubierta:</translation>
+    </message>
+    <message>
         <source>Media for cover:</source>
         <translation>Papel de la cubierta:</translation>
     </message>
@@ -1032,12 +1037,22 @@ Por ejemplo: %1</translation>
         <translation>Inserción de páginas:</translation>
     </message>
     <message>
+        <source>Page insert:</source>
+        <comment>caption</comment>
+        <translation>Insertar páginas:</translation>
+    </message>
+    <message>
         <source>Media for page:</source>
         <translation>Papel de la inserción:</translation>
     </message>
     <message>
         <source>Transparency interleaving:</source>
         <translation>Separar transparencias:</translation>
+    </message>
+    <message>
+        <source>Transparency interleaving:</source>
+        <comment>caption</comment>
+        <translation>Separa-dores:</translation>
     </message>
     <message>
         <source>Media for backing:</source>

@@ -4,8 +4,8 @@
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "model/sentinels.h"
+#include "pages/buttoncaption.h"
 #include "pages/errorlabel.h"
-#include "pages/jobtexts.h"
 #include "pages/pagewidgets.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
@@ -62,7 +62,7 @@ void JobAccounting::setTexts()
 {
     ConstraintMark::setPlainText(label, withColon(tr("Job accounting")));
     //: Short, since it stands below a small picture.
-    JobTexts::setCaption(button, tr("Job accounting", "caption"));
+    ButtonCaption::set(button, tr("Job accounting", "caption"));
     error->setText(noIdText());
     selectLabel->setText(tr("Select account ID"));
     listButton->setText(tr("Account ID List"));

@@ -2,6 +2,7 @@
 
 #include "model/boption.h"
 #include "model/optionstore.h"
+#include "pages/buttoncaption.h"
 #include "pages/errorlabel.h"
 #include "pages/jobtexts.h"
 #include "pages/pagewidgets.h"
@@ -47,7 +48,7 @@ void JobEmail::setTexts()
 {
     JobTexts::setRichText(label, withColon(tr("Job e-mail notification")));
     //: Short, since it stands below a small picture.
-    JobTexts::setCaption(button, tr("Job e-mail notification", "caption"));
+    ButtonCaption::set(button, tr("Job e-mail notification", "caption"));
 }
 
 void JobEmail::setOn(bool on)

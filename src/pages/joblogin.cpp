@@ -2,6 +2,7 @@
 
 #include "model/optionstore.h"
 #include "model/sentinels.h"
+#include "pages/buttoncaption.h"
 #include "pages/jobtexts.h"
 #include "pages/pagewidgets.h"
 #include "pages/secretsetting.h"
@@ -50,7 +51,7 @@ void JobLogin::setTexts()
 {
     ConstraintMark::setPlainText(label, withColon(tr("User Login")));
     //: Short, since it stands below a small picture.
-    JobTexts::setCaption(button, tr("User login"));
+    ButtonCaption::set(button, tr("User login"));
     nameLabel->setText(tr("Name:"));
     passwordLabel->setText(tr("Password:"));
 }

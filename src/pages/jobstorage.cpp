@@ -4,8 +4,8 @@
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "model/sentinels.h"
+#include "pages/buttoncaption.h"
 #include "pages/errorlabel.h"
-#include "pages/jobtexts.h"
 #include "pages/pagewidgets.h"
 #include "pages/secretsetting.h"
 #include "widgets/bixcheckboxbutton.h"
@@ -76,7 +76,7 @@ void JobStorage::setTexts()
 {
     ConstraintMark::setPlainText(label, withColon(tr("Job settings")));
     //: Short, since it stands below a small picture.
-    JobTexts::setCaption(button, tr("Job storage:"));
+    ButtonCaption::set(button, tr("Job storage:"));
     codeLabel->setText(withColon(tr("Access code")));
     numberLabel->setText(withColon(tr("Box number")));
     passwordLabel->setText(withColon(tr("Password")));

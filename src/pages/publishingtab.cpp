@@ -1,6 +1,7 @@
 #include "pages/publishingtab.h"
 
 #include "model/optionstore.h"
+#include "pages/buttoncaption.h"
 #include "pages/errorlabel.h"
 #include "pages/pagelayout.h"
 #include "pages/pagelist.h"
@@ -24,12 +25,20 @@ using PageWidgets::named;
 
 namespace {
 
+/// A catalogue may shorten a caption, but not the heading with the same words.
+struct CaptionText
+{
+    const char *text;
+    const char *comment;
+};
+
 struct ModeRow
 {
     const char *headingName;
     const char *buttonName;
     const char *keyword;
-    const char *text; // of heading and button
+    const char *text; // of the heading
+    CaptionText caption;
     const char *icon;
     const char *mediaLabelName;
     const char *mediaBoxName;
@@ -39,14 +48,16 @@ struct ModeRow
 
 constexpr ModeRow modeRows[] = {
     {"lblCvrMode", "chkButCvr", "cCovBut", QT_TRANSLATE_NOOP("PublishingTab", "Cover mode:"),
-     ":/icons/covermode", "lblCvrM", "cmbBxCvrM", "CvrM",
-     QT_TRANSLATE_NOOP("PublishingTab", "Media for cover:")},
+     QT_TRANSLATE_NOOP3("PublishingTab", "Cover mode:", "caption"), ":/icons/covermode", "lblCvrM",
+     "cmbBxCvrM", "CvrM", QT_TRANSLATE_NOOP("PublishingTab", "Media for cover:")},
     {"lblPins", "chkButPins", "cInsBut", QT_TRANSLATE_NOOP("PublishingTab", "Page insert:"),
-     ":/icons/pageinsert", "lblPMed", "cmbBxPMed", "Pmed",
-     QT_TRANSLATE_NOOP("PublishingTab", "Media for page:")},
+     QT_TRANSLATE_NOOP3("PublishingTab", "Page insert:", "caption"), ":/icons/pageinsert",
+     "lblPMed", "cmbBxPMed", "Pmed", QT_TRANSLATE_NOOP("PublishingTab", "Media for page:")},
     {"lblTint", "chkButTint", "cIntBut",
-     QT_TRANSLATE_NOOP("PublishingTab", "Transparency interleaving:"), ":/icons/transparency",
-     "lblTMed", "cmbBxTMed", "Tmed", QT_TRANSLATE_NOOP("PublishingTab", "Media for backing:")},
+     QT_TRANSLATE_NOOP("PublishingTab", "Transparency interleaving:"),
+     QT_TRANSLATE_NOOP3("PublishingTab", "Transparency interleaving:", "caption"),
+     ":/icons/transparency", "lblTMed", "cmbBxTMed", "Tmed",
+     QT_TRANSLATE_NOOP("PublishingTab", "Media for backing:")},
 };
 
 struct TextRow
@@ -190,10 +201,8 @@ void PublishingTab::retranslate()
     tabName_ = tr("Publishing");
     for (int i = 0; i < ModeCount; ++i) {
         ConstraintMark::setPlainText(headings[i], tr(modeRows[i].text));
-        // The heading says it; on the picture it could not be read.
-        const auto parts = buttons[i]->findChildren<QAbstractButton *>();
-        for (QAbstractButton *part : parts)
-            part->setAccessibleName(tr(modeRows[i].text));
+        ButtonCaption::set(buttons[i], tr(modeRows[i].caption.text, modeRows[i].caption.comment),
+                           tr(modeRows[i].text));
         ConstraintMark::setPlainText(media[i].label, tr(modeRows[i].mediaText));
     }
     for (int i = 0; i < SidesCount; ++i)
