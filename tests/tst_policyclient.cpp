@@ -265,7 +265,6 @@ void TestPolicyClient::policies_data()
     addRow("a list", R"([{"Policies":{}}])", false, "Off Off Off");
     addRow("cut off", R"({"Policies":{"JE.FullColorPrint":"ON")", false, "Off Off Off");
     addRow("no JSON", "INVALID_USER_NAME_OR_PASSWORD", false, "Off Off Off");
-    addRow("empty", "", false, "Off Off Off");
     addRow("10 MB of nonsense", QString(10 * megabyte, '{'), false, "Off Off Off");
     addRow("10 MB of lists", QString(10 * megabyte, '['), false, "Off Off Off");
 }
