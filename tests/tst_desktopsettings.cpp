@@ -163,9 +163,7 @@ void tst_DesktopSettings::exportedFiles()
 
 void tst_DesktopSettings::tools_data()
 {
-    QTest::addColumn<QString>("tool");
-    QTest::addColumn<QByteArray>("script");
-    QTest::addColumn<Files>("after");
+    addColumns<QString, QByteArray, Files>("tool", "script", "after");
     const auto row = [](const char *name, const char *tool, const QByteArray &script,
                         const Files &after) { addRow(name, tool, script, after); };
     const Files before = applicationFiles();

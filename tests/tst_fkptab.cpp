@@ -67,11 +67,6 @@ void click(BixButtonGroup *group, int button)
     QTest::mouseClick(group->buttonAt(button), Qt::LeftButton);
 }
 
-QString join(const QStringList &texts)
-{
-    return texts.join(' ');
-}
-
 /// The page alone.
 struct Page
 {
@@ -126,9 +121,9 @@ struct Page
     }
     static QString restrictions()
     {
-        return join({RecordingDialog::current("FKPColorMode"),
-                     RecordingDialog::current("FKPLeanprint"),
-                     RecordingDialog::current("FKPDuplex")});
+        return RecordingDialog::current("FKPColorMode") + ' ' +
+               RecordingDialog::current("FKPLeanprint") + ' ' +
+               RecordingDialog::current("FKPDuplex");
     }
     /// How many of the fields, their labels and the other controls can be used.
     int enabledWidgets() const
@@ -161,7 +156,6 @@ class TestFkpTab : public QObject
 
 private slots:
     void switchedOnAndOff();
-    void fieldLimits_data();
     void fieldLimits();
     void marksInTheirOrder();
     void answersToVerify_data();
@@ -217,28 +211,20 @@ void TestFkpTab::switchedOnAndOff()
     QCOMPARE(panel.edit("lnEditFKPPort")->text(), QString("81"));
 }
 
-void TestFkpTab::fieldLimits_data()
-{
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("kept");
-    addRow("server without blanks", "lnEditFKPServer", "a b\t[::1]", "ab[::1]");
-    addRow("server of 260", "lnEditFKPServer", QString(262, 's'), QString(260, 's'));
-    addRow("port of 16 digits", "lnEditFKPPort", "a1-23456789012345678", "1234567890123456");
-    addRow("user", "lnEditFKPUser", " &ann_b lee.1", "ann_b lee1");
-    addRow("user of 64", "lnEditFKPUser", QString(66, 'u'), QString(64, 'u'));
-    addRow("password of 64", "lnEditFKPPassword", " \"$" + QString(63, 'p'),
-           " \"$" + QString(61, 'p'));
-}
-
 void TestFkpTab::fieldLimits()
 {
-    QFETCH(QString, field);
-    QFETCH(QString, typed);
     Page panel;
     panel.switchOn();
-    type(panel.edit(field), typed);
-    QTEST(panel.edit(field)->text(), "kept");
+    const auto kept = [&panel](const char *field, const QString &typed) {
+        type(panel.edit(field), typed);
+        return panel.edit(field)->text();
+    };
+    QCOMPARE(kept("lnEditFKPServer", "a b\t[::1]"), QString("ab[::1]"));
+    QCOMPARE(kept("lnEditFKPServer", QString(262, 's')), QString(260, 's'));
+    QCOMPARE(kept("lnEditFKPPort", "a1-23456789012345678"), QString("1234567890123456"));
+    QCOMPARE(kept("lnEditFKPUser", " &ann_b lee.1"), QString("ann_b lee1"));
+    QCOMPARE(kept("lnEditFKPUser", QString(66, 'u')), QString(64, 'u'));
+    QCOMPARE(kept("lnEditFKPPassword", " \"$" + QString(63, 'p')), " \"$" + QString(61, 'p'));
 }
 
 // Marks
@@ -287,10 +273,7 @@ void TestFkpTab::marksInTheirOrder()
 
 void TestFkpTab::answersToVerify_data()
 {
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<int>("boxes");
-    QTest::addColumn<QString>("mark");
-    QTest::addColumn<QString>("restrictions");
+    addColumns<QByteArray, int, QString, QString>("reply", "boxes", "mark", "restrictions");
     const auto ok = [](const QByteArray &body) { return PolicyServer::httpReply("200 OK", body); };
     const QByteArray fault = "500 Internal Server Error";
     addRow("all restricted", ok(allRestrictions), 1, "", "On On On");
@@ -356,10 +339,8 @@ void TestFkpTab::answerAfterFieldsChanged()
 
 void TestFkpTab::silentLogin_data()
 {
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QStringList>("messages");
-    QTest::addColumn<QString>("mark");
-    QTest::addColumn<QString>("restrictions");
+    addColumns<QByteArray, QStringList, QString, QString>("body", "messages", "mark",
+                                                          "restrictions");
     const QByteArray noPrinting = R"({"Policies":{},"JE.MonoPrint":"ON"})";
     const QStringList failed{"Fleet Keeper: " + loginFailed};
     const QStringList forbidden{"Fleet Keeper: You do not have permission to print."};
@@ -414,9 +395,8 @@ void TestFkpTab::noLoginWhileOff()
 
 void TestFkpTab::badSettings_data()
 {
-    QTest::addColumn<QString>("settings");
-    QTest::addColumn<QString>("mark"); // once all is quiet
-    QTest::addColumn<int>("boxes");
+    // The mark once all is quiet.
+    addColumns<QString, QString, int>("settings", "mark", "boxes");
     const QString here = "127.0.0.1";
     addRow("server with blanks", settingsFor("my server", "9094"), unreachable, 1);
     addRow("server with colons", settingsFor("a:b", "9094"), unreachable, 0);

@@ -48,8 +48,7 @@ void tst_PasswordCipher::storedText()
 
 void tst_PasswordCipher::unusualText_data()
 {
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QByteArray>("text");
+    addColumns<QString, QByteArray>("stored", "text");
     const QByteArray none;
     const QByteArray empty("");
     const QByteArray secret("secret");

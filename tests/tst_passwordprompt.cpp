@@ -27,7 +27,6 @@ namespace {
 const QStringList failure{"Error: Could not authorize."};
 const QStringList success{"Success: Settings applied."};
 const QString pair = "Option17=True ";
-const QString tool = PrintServer::sourceFile("demo/bixPPDWrite_F");
 
 /// sudo and su at the front of PATH, for as long as this object lives.
 ///
@@ -129,31 +128,18 @@ private slots:
     void nothingRuns();
     void untraceableWhileOpen();
 
-    void standInTool_data();
-    void standInTool();
     void applyToTheEnd_data();
     void applyToTheEnd();
 
 private:
-    bool laidOut();
-
     PrintServer server; // one for all, since libcups stays with the first
 };
-
-/// A scheduler with one queue, whose PPD is as it came.
-bool TestPasswordPrompt::laidOut()
-{
-    return (server.isRunning() || server.start()) &&
-           server.addQueue("Office_C3", "demo/ppd/px4500.ppd");
-}
 
 // The command
 
 void TestPasswordPrompt::commandLines_data()
 {
-    QTest::addColumn<QString>("password");
-    QTest::addColumn<QString>("prefix");
-    QTest::addColumn<QString>("line");
+    addColumns<QString, QString, QString>("password", "prefix", "line");
     const char *sudo = "sudo -S -p \"\"";
     addRow("sudo", "SECRET", sudo,
            " echo \"SECRET\" | sudo -S -p \"\" bixPPDWrite_F 'Queue1' Option17=True  "
@@ -175,9 +161,7 @@ void TestPasswordPrompt::commandLines()
 
 void TestPasswordPrompt::harmlessWords_data()
 {
-    QTest::addColumn<QString>("printer");
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<bool>("harmless");
+    addColumns<QString, QString, bool>("printer", "arguments", "harmless");
     addRow("two pairs", "Queue1", "Option17=True Option18=HardDisk ", true);
     addRow("every sign allowed", "a_-.+@:,/%=9", "b_-.+@:,/%=c ", true);
     addRow("other alphabets", "Büro_Ω", "Größe=Ωß ", true);
@@ -207,8 +191,7 @@ void TestPasswordPrompt::harmlessWords()
 
 void TestPasswordPrompt::statusOfCommands_data()
 {
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<int>("status");
+    addColumns<QString, int>("command", "status");
     addRow("success in spite of complaints", "echo no >&2; echo no; exit 0", 0);
     addRow("failure", "exit 3", 3);
     addRow("no such tool", "bixNoSuchTool 2>/dev/null", 127);
@@ -246,10 +229,7 @@ void TestPasswordPrompt::judgedByOutput()
 
 void TestPasswordPrompt::attempts_data()
 {
-    QTest::addColumn<QString>("method");
-    QTest::addColumn<QString>("password");
-    QTest::addColumn<QString>("act");
-    QTest::addColumn<bool>("succeeds");
+    addColumns<QString, QString, QString, bool>("method", "password", "act", "succeeds");
     addRow("sudo", "sudo", "a  b'c", "exit 0", true);
     addRow("su", "su", "secret", "exit 0", true);
     addRow("wrong password, sudo", "sudo", "wrong", "exit 1", false);
@@ -322,42 +302,9 @@ void TestPasswordPrompt::untraceableWhileOpen()
     }
 }
 
-// With the tool
-
-void TestPasswordPrompt::standInTool_data()
-{
-    addRows({"arguments", "finisher", "storage"}, R"(
-two options     | Office_C3 Option18=HardDisk Option17=Finisher2 | Finisher2 | HardDisk
-no option       | Office_C3                                      | None      | None
-unknown option  | Office_C3 Option17=Finisher2 Nonsense=1        |           |
-unknown choice  | Office_C3 Option17=Fin                         |           |
-no pair         | Office_C3 Option17                             |           |
-unknown printer | Nobody Option17=Finisher2                      |           |
-nothing         |                                                |           |)");
-}
-
-void TestPasswordPrompt::standInTool()
-{
-    QFETCH(QString, arguments);
-    QFETCH(QString, finisher); // empty if the tool has to fail
-    QFETCH(QString, storage);
-    const bool fails = finisher.isEmpty();
-    QVERIFY2(laidOut(), qPrintable(server.error()));
-    QProcess process;
-    process.start(tool, arguments.split(' ', Qt::SkipEmptyParts));
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitCode(), fails ? 1 : 0);
-    QCOMPARE(process.readAllStandardError().isEmpty(), !fails);
-    const QByteArray ppd = fileText("/etc/cups/ppd/Office_C3.ppd");
-    QVERIFY(ppd.contains("\n*DefaultOption17: " + (fails ? "None" : finisher.toUtf8()) + '\n'));
-    QVERIFY(ppd.contains("\n*DefaultOption18: " + (fails ? "None" : storage.toUtf8()) + '\n'));
-}
-
 void TestPasswordPrompt::applyToTheEnd_data()
 {
-    QTest::addColumn<QString>("method");
-    QTest::addColumn<bool>("byOk");
-    QTest::addColumn<bool>("succeeds");
+    addColumns<QString, bool, bool>("method", "byOk", "succeeds");
     addRow("Apply with sudo", "sudo", false, true);
     addRow("OK with su", "su", true, true);
     addRow("Apply with a wrong password", "sudo", false, false);
@@ -369,10 +316,14 @@ void TestPasswordPrompt::applyToTheEnd()
     QFETCH(QString, method);
     QFETCH(bool, byOk);
     QFETCH(bool, succeeds);
-    QVERIFY2(laidOut(), qPrintable(server.error()));
+    // The queue's PPD is as it came, each time.
+    QVERIFY2((server.isRunning() || server.start()) &&
+                 server.addQueue("Office_C3", "demo/ppd/px4500.ppd"),
+             qPrintable(server.error()));
     QVERIFY(makeUserFolder());
     StandIns standIns("[ \"$password\" = right ] || exit 1\nexec \"$@\"\n");
-    QVERIFY(QFile::link(tool, standIns.filePath("bixPPDWrite_F")));
+    QVERIFY(QFile::link(PrintServer::sourceFile("demo/bixPPDWrite_F"),
+                        standIns.filePath("bixPPDWrite_F")));
     MessageBoxes boxes;
     BixDialog dialog;
     dialog.show();

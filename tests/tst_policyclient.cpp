@@ -91,10 +91,8 @@ void TestPolicyClient::request()
 
 void TestPolicyClient::answers_data()
 {
-    QTest::addColumn<QList<QByteArray>>("pieces");
-    QTest::addColumn<QStringList>("messages"); // without the tag
-    QTest::addColumn<int>("errors");           // this many
-    QTest::addColumn<int>("more");             // or as many more
+    // The messages stand without the tag. There may be "more" errors than "errors" by chance.
+    addColumns<QList<QByteArray>, QStringList, int, int>("pieces", "messages", "errors", "more");
     const auto row = [](const char *name, const QList<QByteArray> &pieces,
                         const QStringList &messages, int errors,
                         int more = 0) { addRow(name, pieces, messages, errors, more); };
@@ -209,9 +207,8 @@ void TestPolicyClient::unreachable()
 
 void TestPolicyClient::tags_data()
 {
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<bool>("stale"); // for host h, port 9094, user "ann lee"
-    QTest::addColumn<QString>("body");
+    // Stale or not for host h, port 9094, user "ann lee".
+    addColumns<QString, bool, QString>("message", "stale", "body");
     addRow("same login", "<https://h:9094 ann lee>{}", false, "{}");
     addRow("several lines", "<https://h:9094 ann lee>{\n\"a\":1}\n", false, "{\n\"a\":1}\n");
     addRow("angle brackets in the body", "<https://h:9094 ann lee><p>a</p>", false, "<p>a</p>");
@@ -234,9 +231,8 @@ void TestPolicyClient::tags()
 
 void TestPolicyClient::policies_data()
 {
-    QTest::addColumn<QString>("body");
-    QTest::addColumn<bool>("accepted");
-    QTest::addColumn<QString>("after"); // color, leanprint, duplex; before they are On Off On
+    // Color, leanprint, duplex; before they are On Off On.
+    addColumns<QString, bool, QString>("body", "accepted", "after");
     addRow("all three", R"({"Policies":{"JE.FullColorPrint":"ON",
         "DR.LeanPrintRestriction":"PV.On","DR.DuplexRestriction":"PV.On"}})",
            true, "On On On");
@@ -273,9 +269,8 @@ void TestPolicyClient::policies()
 
 void TestPolicyClient::reports_data()
 {
-    QTest::addColumn<QString>("body");
-    QTest::addColumn<QString>("asked");  // the report when the user has pressed Verify
-    QTest::addColumn<QString>("silent"); // and when not
+    // What is reported when the user has pressed Verify, and when not.
+    addColumns<QString, QString, QString>("body", "asked", "silent");
     const QString unknown = "An unspecified error occured.";
     const QString failed = "Login failed. The user name or password you entered is incorrect.";
     const QString done =

@@ -22,11 +22,6 @@ const QString ppdFolder = "/usr/share/brixola/ppd6/";
 const QString sample = PRESSDESK_SOURCE_DIR "/tests/data/profiles/px4500";
 const QString policyOff = "Fleet Keeper\n  Fleet Keeper: Off\n";
 
-QStringList userFiles()
-{
-    return QDir(userDir).entryList(QDir::Files);
-}
-
 /// The tree as text: headings, below each its rows as "  label: text".
 QString shown(const ProfileDetails &details)
 {
@@ -80,9 +75,7 @@ void TestProfileReader::init()
 
 void TestProfileReader::validity_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("description");
-    QTest::addColumn<bool>("valid");
+    addColumns<QString, QString, bool>("name", "description", "valid");
     addRow("none", "", "", false);
     addRow("leading blank", " Draft A5, 2 sides", "", true);
     addRow("single quotes and shell signs", "-rf Bob's “$(x)” & <b> \\n *", "", true);
@@ -117,10 +110,8 @@ void TestProfileReader::validity()
 
 void TestProfileReader::listed_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QStringList>("profiles");
-    QTest::addColumn<bool>("counts"); // among the 25
+    // It may be no profile and count among the 25 all the same.
+    addColumns<QString, QByteArray, QStringList, bool>("file", "text", "profiles", "counts");
     const auto row = [](const char *what, const QByteArray &text, const QStringList &profiles,
                         bool counts,
                         const char *file = "a.cfg") { addRow(what, file, text, profiles, counts); };
@@ -165,10 +156,8 @@ void TestProfileReader::listHasAnOrder()
 
 void TestProfileReader::rewritten_data()
 {
-    QTest::addColumn<QString>("newName");
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QString>("description");
-    QTest::addColumn<QByteArray>("after");
+    addColumns<QString, QByteArray, QString, QByteArray>("newName", "before", "description",
+                                                         "after");
     const QByteArray plain = "[Profile]\n[M]\nProfileDescription=x\nA=1=2\n";
     const QByteArray changed = "[Profile]\n[M]\nProfileDescription=a=b\\nü\nA=1=2\n";
     const QByteArray bytes("[Profile]\n\0\xff\r\n\n", 15);
@@ -191,7 +180,7 @@ void TestProfileReader::rewritten()
     QVERIFY(setFileText(profilePath("other"), "[Profile]\nother\n"));
     rewriteProfile("old", newName, description);
     QTEST(fileText(profilePath(newName)), "after");
-    QCOMPARE(userFiles().size(), newName == "other" ? 1 : 2);
+    QCOMPARE(QDir(userDir).entryList(QDir::Files).size(), newName == "other" ? 1 : 2);
     removeProfile(profilePath(newName));
     QVERIFY(!QFile::exists(profilePath(newName)));
 }
@@ -203,7 +192,7 @@ void TestProfileReader::rewritingThatFailsLosesNothing()
     rewriteProfile("old", "new", "x"); // no temporary copy
     rewriteProfile("gone", "other", "x");
     rewriteProfile("folder", "other", "x");
-    QCOMPARE(userFiles(), QStringList("old.cfg"));
+    QCOMPARE(QDir(userDir).entryList(QDir::Files), QStringList("old.cfg"));
 }
 
 // The tree
@@ -272,8 +261,7 @@ void TestProfileReader::shownValue()
 
 void TestProfileReader::tree_data()
 {
-    QTest::addColumn<QByteArray>("profile");
-    QTest::addColumn<QString>("text");
+    addColumns<QByteArray, QString>("profile", "text");
     const auto row = [](const char *what, const QByteArray &profile, const QString &text) {
         addRow(what, profile, text);
     };

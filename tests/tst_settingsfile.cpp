@@ -37,9 +37,7 @@ void TestSettingsFile::init()
 
 void TestSettingsFile::valuesOfKey_data()
 {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QStringList>("values");
+    addColumns<QByteArray, QString, QStringList>("file", "key", "values");
     const auto row = [](const char *name, const QByteArray &file, const char *key,
                         const QStringList &values) { addRow(name, file, key, values); };
     row("the first one wins", "M=b\nOther=1\nM=a\nM=\nM=b\n", "M", {"b", "a", "", "b"});
@@ -120,8 +118,7 @@ void TestSettingsFile::unwritablePathIsSilent()
 
 void TestSettingsFile::updateSetting_data()
 {
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QByteArray>("after");
+    addColumns<QByteArray, QByteArray>("before", "after");
     const auto row = [](const char *name, const QByteArray &before, const QByteArray &after) {
         addRow(name, before, after);
     };

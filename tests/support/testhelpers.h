@@ -4,6 +4,14 @@
 #include <QWidget>
 #include <QtTest>
 
+/// Adds columns of test data: addColumns<QString, bool>("name", "valid").
+template <typename... Types, typename... Names>
+void addColumns(Names... names)
+{
+    static_assert(sizeof...(Types) == sizeof...(Names));
+    (QTest::addColumn<Types>(names), ...);
+}
+
 /// Adds a row of test data; texts may be literals.
 template <typename... Cells>
 void addRow(const char *name, const Cells &...cells)
