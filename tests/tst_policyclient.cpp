@@ -243,9 +243,6 @@ void TestPolicyClient::policies_data()
     addRow("other case",
            R"({"Policies":{"JE.FullColorPrint":"on","DR.DuplexRestriction":"PV.ON"}})", true,
            "Off Off Off");
-    addRow("values swapped", R"({"Policies":{"JE.FullColorPrint":"PV.On",
-        "DR.DuplexRestriction":"ON"}})",
-           true, "Off Off Off");
     addRow("no strings", R"({"Policies":{"JE.FullColorPrint":true,"DR.DuplexRestriction":null}})",
            true, "Off Off Off");
     addRow("policies are a list", R"({"Policies":["JE.FullColorPrint"]})", true, "On Off On");
