@@ -93,7 +93,7 @@ struct Page
         page.clearMarks();
         page.markConstraintWidgets();
         const auto *label = toggle->findChild<QLabel *>();
-        const QString text = label->toolTip();
+        QString text = label->toolTip();
         if (page.hasMarks() == text.isEmpty() || page.hasMarks() != label->text().contains("error"))
             return "mark and explanation differ";
         return text;

@@ -20,7 +20,6 @@ private slots:
     void noFileMeansNoValue();
     void writtenFiles();
     void directoryIsMadeWithItsParents();
-    void unwritablePathIsSilent();
     void updateSetting_data();
     void updateSetting();
 
@@ -103,17 +102,6 @@ void TestSettingsFile::directoryIsMadeWithItsParents()
         QCOMPARE(stat(QFile::encodeName(directory->filePath(path)), &status), 0);
         QCOMPARE(status.st_mode & 07777U, 0755U);
     }
-}
-
-void TestSettingsFile::unwritablePathIsSilent()
-{
-    const QString path = directory->filePath("folder.cfg");
-    QVERIFY(QDir().mkdir(path));
-    writeCfg(path, {{"A", "1"}}, true);
-    QVERIFY(QDir(path).exists());
-    userDir = "/proc/none/";
-    writeCfg(cfgPath("P"), {}, true);
-    QVERIFY(!cfgExists("P"));
 }
 
 void TestSettingsFile::updateSetting_data()

@@ -4,7 +4,6 @@
 #include "policy/policyreply.h"
 
 class QCheckBox;
-class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;

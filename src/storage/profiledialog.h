@@ -7,7 +7,6 @@ class PanelDialog;
 class ProfileEditDialog;
 class ProfileSaveDialog;
 class QDialogButtonBox;
-class QGridLayout;
 class QPushButton;
 class QTableWidget;
 class QTreeWidget;

@@ -79,9 +79,9 @@ bool isWhole(const QByteArray &request)
 
 } // namespace
 
-PolicyServer::PolicyServer(const QHostAddress &address)
+PolicyServer::PolicyServer()
 {
-    listen(address);
+    listen(QHostAddress::LocalHost);
 }
 
 QString PolicyServer::url() const

@@ -16,8 +16,8 @@ class PolicyServer : public QTcpServer
     Q_OBJECT
 
 public:
-    /// Listens on a free port of 127.0.0.1, or of ::1.
-    explicit PolicyServer(const QHostAddress &address = QHostAddress(QHostAddress::LocalHost));
+    /// Listens on a free port of 127.0.0.1.
+    PolicyServer();
 
     QString port() const { return QString::number(serverPort()); }
     /// "https://127.0.0.1:PORT"
