@@ -95,10 +95,6 @@ constexpr ListRow listRows[] = {
 // What tells a staple location from "no staple", as part of the saved value.
 constexpr const char *staplePlaces[] = {"Center", "Rear", "Front", "BookletStitch", "Internal"};
 
-// How far a list gives way, in pixels, where a printer's long texts would push the page over its
-// edge; it opens as wide as they are.
-constexpr int leastListWidth = 120;
-
 struct ChoiceRow
 {
     const char *keyword;

@@ -2,9 +2,7 @@
 
 #include "pages/tab.h"
 
-class QFrame;
 class QGridLayout;
-class QLabel;
 
 /// The page "Basic": paper, source and destination, collation, duplex and colour.
 class GeneralTab : public Tab

@@ -1,6 +1,7 @@
 #include "pages/userlogintab.h"
 
 #include "model/sentinels.h"
+#include "pages/errorlabel.h"
 #include "pages/pagewidgets.h"
 #include "storage/passwordcipher.h"
 #include "storage/settingsfile.h"
@@ -59,12 +60,7 @@ void UserLoginTab::createWidgets()
     passwordEdit->setEchoMode(QLineEdit::Password);
     passwordEdit->setMaxLength(longestText);
     passwordLabel->setBuddy(passwordEdit);
-    errorLabel = new QLabel(this);
-    errorLabel->setStyleSheet(
-        QStringLiteral("QLabel{color: red; font-family: Sans; font-size: 12px; border-width: 1px; "
-                       "border-color: %1; border-style: solid}")
-            .arg(palette().color(backgroundRole()).name()));
-    errorLabel->setWordWrap(true);
+    errorLabel = makeErrorLabel(this);
     for (QWidget *widget :
          {static_cast<QWidget *>(nameLabel), static_cast<QWidget *>(nameEdit),
           static_cast<QWidget *>(passwordLabel), static_cast<QWidget *>(passwordEdit),
@@ -92,7 +88,6 @@ void UserLoginTab::createConnections()
     loginButton->setChecked(true);
     loginButton->setChecked(false);
     connect(loginButton, toggled, dialog, &PanelDialog::setConstraints, Qt::UniqueConnection);
-    errorLabel->hide();
 }
 
 void UserLoginTab::createLayout()

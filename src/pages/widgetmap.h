@@ -36,7 +36,6 @@ public:
     }
     void clear() { entries.clear(); }
 
-    bool isEmpty() const { return entries.isEmpty(); }
     int size() const { return entries.size(); }
     /// Null for an unknown keyword.
     QWidget *value(const QString &keyword) const
