@@ -188,13 +188,11 @@ void TestTab::loadsAndLeavesBlockedValues_data()
     addRows({"keyword", "options", "settings", "blocked", "results", "shown", "current"}, R"(
 list: saved value               | Media  | %media               | Media=Env   |             | 0  | Plain paper Thick [A & B]  | Env
 list: a text is no saved value  | Media  | %media               | Media=A & B |             | 0  | [Plain paper] Thick A & B  | Plain
-list: no such option            | Media  | Other 99 A           | Media=Thick |             | 0  | disabled                   |
 list: option without choices    | Media  | Media 99             | Media=Thick |             | 0  |                            | MediaNULL
 list: its value                 | Media  | Media 9 A* B C       |             | A           | 10 | -A [B] C                   | B
 list: all values                | Media  | Media 9 A* B C       | Media=B     | A B C       | 00 | [-A] -B -C                 | B
 list: two choices of one text   | Media  | Media 9 A/X* B/X C   | Media=B     |             | 0  | [X] X C                    | A
 check box: saved                | Skip   | Skip 99 True* False  | Skip=False  |             | 0  | off                        | False
-check box: lost the value       | Skip   | Skip 99 False True*  | Skip=Yes    |             | 0  | on                         | True
 check box: no such option       | Skip   | Other 99 A           | Skip=True   |             | 0  | off disabled               |
 check box: on                   | Skip   | Skip 9 False* True   | Skip=True   | True        | 10 | off disabled               | False
 check box: off                  | Skip   | Skip 9 False* True   |             | False       | 10 | on disabled                | True
@@ -202,8 +200,6 @@ check box: both                 | Skip   | Skip 9 False* True   | Skip=True   | 
 check box: goes by the order    | Skip   | Skip 9 True* False   |             | False       | 10 | off disabled               | False
 check box: no choices           | Skip   | Skip 9               |             |             | 0  | off                        | SkipNULL
 check box: one choice           | Skip   | Skip 9 False*        |             | False       | 10 | on disabled                | False
-check box: a third choice       | Skip   | Skip 9 False* True X |             | X           | 0  | off                        | False
-picture box: saved              | Tray   | Tray 99 False* True  | Tray=True   |             | 0  | on                         | True
 picture box: unknown value      | Tray   | Tray 99 False* True  | Tray=true   |             | 0  | off                        | False
 picture box: goes by name       | Tray   | Tray 9 True* False   |             | True        | 10 | off disabled               | False
 buttons: lost the value         | Duplex | %duplex              | Duplex=Both |             | 0  | [Off] Long edge Short edge | None
@@ -215,7 +211,6 @@ buttons: one value is left      | Duplex | %duplex              |             | 
 buttons: one without a choice   | Duplex | Duplex 9 NoTumble/Long_edge* Tumble/Short_edge | | Tumble | 00 | Off [Long edge] -Short edge disabled | NoTumble
 buttons: all values             | Duplex | %duplex              | Duplex=Tumble | None NoTumble Tumble | 1 | [-Off] -Long edge -Short edge disabled | None
 dependent of an unchecked box   | CoverMedia | %cover           | CoverMedia=Thick             |       | 0 | Plain [Thick] disabled | None
-dependent of a checked box      | CoverMedia | %cover           | Cover=True; CoverMedia=Thick |       | 0 | Plain [Thick]          | Thick
 dependent that is off           | CoverMedia | %cover           |             | Plain       | 00 | [Plain] Thick disabled     | None
 )");
 }
@@ -266,7 +261,6 @@ list                               | Media       | 1   | setConstraints Thick
 check box on                       | Skip        | 1   | setConstraints True
 radio button on                    | Draft       | 1   | setConstraints True
 picture check box on               | Tray        | 1   | setConstraints True
-buttons                            | Duplex      | 1   | setConstraints NoTumble
 slider                             | Level       | 3   | setConstraints Plus3
 slider at zero                     | Level       | 0   | setConstraints Zero
 slider without that value          | Level       | 4   | setConstraints Minus3
@@ -322,8 +316,9 @@ void TestTab::uncheckedButtonDrivesItsDependents()
 void TestTab::forcedMovesAreSilentForComboBoxes()
 {
     Panel panel;
-    panel.load("Force 1 Off On; Media 99 Plain* Thick; Skip 99 False True*; Other 99 A B; "
-               "Force=On Media=Plain Skip=True; Media=Plain Other=A; Media=Thick Other=B");
+    panel.load("Force 1 Off On Back; Media 99 Plain* Thick; Skip 99 False True*; Other 99 A B; "
+               "Force=On Media=Plain Skip=True; Force=Back Skip=False; "
+               "Media=Plain Other=A; Media=Thick Other=B");
     panel.dialog.remark = [&] { return panel.current("Skip"); };
     selectValues(*currentStore, "Force=On");
     QVERIFY(panel.page->enableOptions());
@@ -332,13 +327,24 @@ void TestTab::forcedMovesAreSilentForComboBoxes()
     QVERIFY(!panel.page->bound("Media")->signalsBlocked());
     QCOMPARE(blockedValues(*currentStore), QString("Media=Plain Other=B Skip=True"));
 
+    // The pass that it starts may move it again.
+    selectValues(*currentStore, "Force=Back");
+    panel.page->enableOptions();
+    panel.dialog.remark = [&] {
+        selectValues(*currentStore, "Force=Back");
+        panel.page->enableOptions();
+        return QString();
+    };
+    selectValues(*currentStore, "Force=On");
+    panel.page->enableOptions();
+    QCOMPARE(panel.page->shown("Skip") + ' ' + panel.current("Skip"), QString("on disabled True"));
+
     // With nothing left to choose the value no longer stands in the way of others.
     panel.load("Force 1 Off On; Media 99 Plain* Thick; Other 99 A B; "
                "Force=On Media=Plain Media=Thick; Media=Plain Other=A");
     selectValues(*currentStore, "Force=On");
     QVERIFY(!panel.page->enableOptions());
     QCOMPARE(blockedValues(*currentStore), QString("Media=Plain Media=Thick"));
-    QCOMPARE(panel.dialog.takeCalls(), QStringList());
 }
 
 void TestTab::collects_data()
@@ -347,8 +353,6 @@ void TestTab::collects_data()
 list and buttons                 | %media; %duplex | Duplex=Tumble; Media=Env | Duplex=Tumble Media=Env
 check boxes                      | Skip 99 False True*; Tray 99 False* True |  | Skip=True Tray=False
 sliders                          | Level 99 X; CaHueMaster 99 X  |          | CaHueMaster=-180 Level=3.0
-option without choices           | Media 99 |                               |
-radio buttons say nothing        | Draft 99 False True* |                   |
 box off, off-value is a choice   | %cover   | CoverMedia=Thick              | Cover=False CoverMedia=Thick
 box off, off-value is an option  | %insert  | InsertMedia=Thick             | Insert=False InsertMedia=Thick InsertOff=Second
 box on                           | %insert  | InsertMedia=Thick; Insert=True| Insert=True InsertMedia=Thick
@@ -383,20 +387,15 @@ label, twice                 | Media  | ++   | Media:#          | 1
 label, a blank each time     | Media  | +-+- | Media:__         | 1
 label, new by a reload       | Media  | +-+r | Media:           | 0
 label, explained twice       | Media  | ee   | Media:#Why       | 0
-label, no longer explained   | Media  | ex   | Media:           | 0
 label, constraint, twice     | Media  | cc   | Media:#          | 1
 label, forgotten by a reload | Media  | cr   | Media:           | 0
 check box                    | Skip   | +    | icon             | 1
 check box, cleared           | Skip   | +-   |                  | 1
-check box, constraint        | Skip   | c    | icon             | 1
 adjustment is never marked   | Cadj   | +    |                  | 0
 buttons                      | Duplex | +    | Duplex:_Off#     | 1
 buttons, twice               | Duplex | ++   | Duplex:_Off_#    | 1
-buttons, new by a reload     | Duplex | +-+r | Duplex:_Off      | 0
 buttons, cleared             | Duplex | +-   | Duplex:_Off_     | 1
 buttons, the mark explained  | Duplex | +ee  | Duplex:_Off#Why  | 1
-buttons, no longer explained | Duplex | ex   | Duplex:_Off      | 0
-buttons, constraint          | Duplex | c    | Duplex:_Off#     | 1
 picture check box: the page  | Tray   | +    |                  | 1
 keyword of another page      | Paper  | +    |                  | 0
 )");

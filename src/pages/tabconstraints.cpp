@@ -116,8 +116,9 @@ bool Tab::forceState(Checkable *box, bool offBlocked, bool onBlocked)
     const bool moved = box->isChecked() != state;
     box->setEnabled(false);
     box->setChecked(state);
+    // Its signal may have started a constraint pass that switched it back.
     if (moved)
-        applyWidgetValue(state, box);
+        applyWidgetValue(box->isChecked(), box);
     return moved;
 }
 
