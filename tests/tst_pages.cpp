@@ -53,14 +53,12 @@ private slots:
     void color_data();
     void color();
     void colorClickMovesTheOptionFirst();
-    void customSizeIsNotOffered_data();
     void customSizeIsNotOffered();
     void paperSizeReachesItsAliases();
     void labelsOfOtherPrinters();
     void noQueues();
     void installedOptionsAppear();
     void installedChangeWarns();
-    void installedConflict();
     void installedOptionsGoWithTheirPrinter();
     void refreshKeepsInstalledOptions();
 };
@@ -69,34 +67,27 @@ private slots:
 
 void TestPages::color_data()
 {
-    QTest::addColumn<QString>("option");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<bool>("usable");
-    QTest::addColumn<QString>("collected");
-    const QString blockedGray = "ColorModel 99 Gray/Black_&_white*\nForce 1 Off On\n"
-                                "Force=On ColorModel=Gray";
-    addRow("printer without color", "Other 99 A", "Black & white", false, "");
-    addRow("gray only", "ColorModel 99 Gray/Black_&_white*", "Black & white", false, "Gray");
-    addRow("gray only, and blocked", blockedGray, "Black & white", false, "Gray");
-    addRow("one value with another name", "ColorModel 99 Mono/Monochrome*", "Black & white", false,
-           "");
-    addRow("color", colorOption, "Full color", true, "CMYK");
+    addRows({"options", "shown", "usable", "collected"}, R"(
+printer without color       | Other 99 A                                        | Black & white | 0 |
+gray only                   | ColorModel 99 Gray/Black_&_white*                 | Black & white | 0 | Gray
+one value with another name | ColorModel 99 Mono/Monochrome*                    | Black & white | 0 |
+color                       | ColorModel 99 CMYK/Full_color* Gray/Black_&_white | Full color    | 1 | CMYK
+)");
 }
 
 void TestPages::color()
 {
-    QFETCH(QString, option);
+    QFETCH(QString, options);
     QFETCH(QString, shown);
     GeneralPanel panel;
     const BixButtonGroup *group = panel.page->colorGroup();
     const auto *label = group->findChild<QLabel *>();
     const QColor normal = label->palette().color(label->foregroundRole());
     panel.load(colorOption); // a printer before
-    panel.load(option, "ColorModel=CMYK");
-    currentStore->setCurrentByKey("Force", "On");
+    panel.load(options, "ColorModel=CMYK");
     panel.page->enableOptions(); // a constraint pass leaves it so
     QCOMPARE(label->text(), "Color: " + shown);
-    QTEST(group->isEnabled(), "usable");
+    QTEST(QString::number(group->isEnabled()), "usable");
     QCOMPARE(label->palette().color(QPalette::Disabled, label->foregroundRole()), normal);
     QTEST(panel.page->collectSettings().value("ColorModel"), "collected");
 }
@@ -113,28 +104,20 @@ void TestPages::colorClickMovesTheOptionFirst()
     QCOMPARE(panel.dialog.takeCalls(), QStringList());
 }
 
-void TestPages::customSizeIsNotOffered_data()
-{
-    QTest::addColumn<QString>("option");
-    QTest::addColumn<QString>("saved");
-    QTest::addColumn<QString>("shown");
-    addRow("another size saved", paperOption, "A5", "A5");
-    addRow("custom saved, in the middle, default behind it", "PageSize 99 A5 Custom/Own A4*",
-           "Custom", "A4");
-    addRow("custom is the default", "PageSize 99 A5 A4 Custom*", "", "A5");
-}
-
 void TestPages::customSizeIsNotOffered()
 {
-    QFETCH(QString, option);
-    QFETCH(QString, saved);
-    QFETCH(QString, shown);
     GeneralPanel panel;
-    panel.load(option, "PageSize=" + saved);
-    const auto *box = panel.widget<ComboBoxEx>("cmbBxPageSize");
-    QCOMPARE(box->count(), 2);
-    QCOMPARE(box->currentText(), shown);
-    QCOMPARE(panel.current("PageSize"), shown);
+    const auto loaded = [&](const QString &options, const QString &saved) {
+        panel.load(options, "PageSize=" + saved);
+        const auto *box = panel.widget<ComboBoxEx>("cmbBxPageSize");
+        return QString("%1 of %2, %3")
+            .arg(box->currentText())
+            .arg(box->count())
+            .arg(panel.current("PageSize"));
+    };
+    QCOMPARE(loaded(paperOption, "A5"), QString("A5 of 2, A5"));
+    QCOMPARE(loaded("PageSize 99 A5 Custom/Own A4*", "Custom"), QString("A4 of 2, A4"));
+    QCOMPARE(loaded("PageSize 99 A5 A4 Custom*", QString()), QString("A5 of 2, A5"));
 }
 
 void TestPages::paperSizeReachesItsAliases()
@@ -149,7 +132,6 @@ void TestPages::paperSizeReachesItsAliases()
 
     panel.load("InputSlot 99 Tray1* Tray2"); // without a trace of the printer before
     QCOMPARE(panel.page->collectSettings(), (QHash<QString, QString>{{"InputSlot", "Tray1"}}));
-    QCOMPARE(panel.widget<ComboBoxEx>("cmbBxPageSize")->count(), 0);
 }
 
 void TestPages::labelsOfOtherPrinters()
@@ -178,11 +160,8 @@ void TestPages::noQueues()
 {
     PrinterPanel panel;
     panel.dialog.show();
-    const QTableWidget *table = panel.page->table();
     panel.page->reloadPrinterTable();
-    QCOMPARE(table->rowCount(), 0);
-    QCOMPARE(table->horizontalHeaderItem(2)->text(), QString("Status"));
-    QCOMPARE(table->columnWidth(0), 186);
+    QCOMPARE(panel.page->table()->rowCount(), 0);
     panel.page->reload(); // without a printer
     panel.page->refreshPage();
     panel.page->clearPrinterSelection();
@@ -190,10 +169,11 @@ void TestPages::noQueues()
 }
 
 const QString installed = QStringLiteral("Option27/Last 99 False* B\n"
-                                         "Option18/Finisher 99 None* Staple/Staple_&_fold\n"
-                                         "Option17/Tray_R&D 99 True False*\n"
+                                         "Option18/Finisher 9 None* Staple/Staple_&_fold\n"
+                                         "Option17/Tray_R&D 5 True False*\n"
                                          "Option8/Disk 99 False True* Maybe\n"
-                                         "Other 99 A* B\n");
+                                         "Other 99 A* B\n"
+                                         "Option17=True Option18=Staple\n");
 
 void TestPages::installedOptionsAppear()
 {
@@ -209,11 +189,9 @@ void TestPages::installedOptionsAppear()
     const auto *last = panel.widget<ComboBoxEx>("cmbBxOption27");
     QVERIFY(tray && disk && label && finisher && last);
     QCOMPARE(panel.page->findChildren<ComboBoxEx *>().size(), 2); // no other option
-    QVERIFY(!tray->isChecked());
-    QVERIFY(disk->isChecked());
+    QVERIFY(!tray->isChecked() && disk->isChecked());
     QCOMPARE(label->text(), QString("Finisher:"));
     QCOMPARE(finisher->currentText(), QString("Staple & fold"));
-    QCOMPARE(panel.current("Option18"), QString("Staple"));
 
     const QWidget *column[] = {tray, disk, label, finisher, last};
     for (int i = 1; i < 5; ++i)
@@ -225,27 +203,16 @@ void TestPages::installedChangeWarns()
 {
     PrinterPanel panel;
     panel.load(installed);
-    panel.load(installed); // connects new widgets, once each
-    panel.dialog.remark = [&] { return panel.current("Option17"); };
+    panel.load(installed, "Option18=Staple"); // connects new widgets, once each
+    panel.dialog.remark = [&] { return panel.current("Option17") + panel.current("Option18"); };
     panel.widget<QCheckBox>("chkBxOption17")->click();
-    QCOMPARE(panel.dialog.takeCalls(), QStringList("setConstraints True"));
+    QCOMPARE(panel.dialog.takeCalls(), QStringList("setConstraints TrueNone")); // it excludes that
+    QCOMPARE(panel.widget<ComboBoxEx>("cmbBxOption18")->currentText(), QString("None"));
     QVERIFY(panel.widget<QLabel>("lblRootWarning"));
     QVERIFY(panel.page->installedOptionsChanged());
     panel.page->recordInstalledValues(); // written
     QVERIFY(!panel.widget<QLabel>("lblRootWarning"));
     QVERIFY(!panel.page->installedOptionsChanged());
-}
-
-void TestPages::installedConflict()
-{
-    PrinterPanel panel;
-    panel.load(
-        "Option17 5 False* True\nOption18 9 None Staple* Fold\nOption17=True Option18=Staple");
-    panel.widget<QCheckBox>("chkBxOption17")->click();
-    const auto *finisher = panel.widget<ComboBoxEx>("cmbBxOption18");
-    QCOMPARE(finisher->currentText(), QString("None"));
-    QCOMPARE(panel.current("Option18"), QString("None"));
-    QVERIFY(!(finisher->model()->index(1, 0).flags() & Qt::ItemIsEnabled));
 }
 
 void TestPages::installedOptionsGoWithTheirPrinter()
