@@ -171,7 +171,6 @@ void TestAdjustments::colorRows_data()
     addRow("no hundredth gets lost", on, "Red=0.29", "Red 0.29|29");
     addRow("sign alone", on, "Saturation:50, Saturation=-", "Saturation -|0");
     addRow("beyond the end", on, "Saturation=10.5", "Saturation 10|1000");
-    addRow("letters", on, "Saturation=1e5", "Saturation 1|100");
     addRow("master in whole degrees", on, "Master=-180.5", "Master -180|-180");
     addRow("typed master clears all hues", on, "Red:5, Blue:6, Master=5", "Master 5|5");
     addRow("moved master clears all hues", on, "Red:5, Blue:6, Master:5", "Master 5|5");
@@ -180,7 +179,6 @@ void TestAdjustments::colorRows_data()
     addRow("hues side by side", on, "Red:5, Blue=1, Master:0", "Red 0.05|5, Blue 1|100");
     addRow("balance clears the hues", on, "Master:5, Saturation:6, balance", "");
     addRow("hues clear the balance", on, "balance, Cyan - Red:5, Yellow - Blue=2, hsl", "");
-    addRow("balance", on, "balance, Magenta - Green=2", "Magenta - Green 2|200");
     addRow("off clears everything", on, "Red:5, Contrast:6, custom", "");
     addRow("off clears the balance", on, "balance, Cyan - Red:5, custom, custom", "");
     addRow("coarse values alone", "CaHr=3.0\nCaCR=1.0", "", "");
@@ -203,9 +201,7 @@ void TestAdjustments::monoRows_data()
     addRow("beyond the ends", on, "Brightness=-1000", "Brightness -100|-100");
     addRow("whole numbers only", on, "Contrast=1.5", "Contrast 15|15");
     addRow("sign alone", on, "Contrast:5, Contrast=-", "Contrast -|0");
-    addRow("off and on again", on, "Brightness:37, custom, custom", "");
     addRow("saved", on + "fMalt=3.7\nfMact=-0.5", "", "Brightness 37|37, Contrast -5|-5");
-    addRow("saved, but off", "Madj=False\nfMalt=3.7", "", "");
     addRow("too far", on + "fMalt=1e300", "", "Brightness 100|100");
     addRow("no numbers", on + "fMalt=nan\nfMact=x", "", "");
     addRow("a megabyte", on + "fMalt=" + QString(1 << 20, '9'), "", "");
@@ -222,7 +218,6 @@ void TestAdjustments::forms_data()
     const QString balance = "Cadj=True\nCaColorSpace=1\nHueIndex=3";
     addRow("off", printer, "", "", "-Hue", "False -1 0");
     addRow("switched on", printer, "", "custom", "Hue", "True 0 0");
-    addRow("hues", printer, saved, "", "Hue", "True 0 3");
     addRow("balance", printer, balance, "", "Col", "True 1 0");
     addRow("to balance and back", printer, saved, "balance, hsl", "Hue", "True 0 0");
     addRow("balance off", printer, balance, "custom", "-Hue", "False -1 0");
@@ -230,7 +225,6 @@ void TestAdjustments::forms_data()
     addRow("no forms", "Cadj 5 False True\n" + hues, balance, "", "Hue", "True 0 3");
     addRow("one form", "Cadj 5 False True\nCaColorSpace 99 1", balance, "", "Col", "True 1 0");
     addRow("no hues", others, saved, "", "Hue", "True 0 0");
-    addRow("no adjustment", hues, saved, "", "-Hue", "False -1 0");
 }
 
 void TestAdjustments::forms()
@@ -270,6 +264,8 @@ void TestAdjustments::hueList()
              QString("6 Cyans Cyan, "));
     QCOMPARE(shown("CaHr/Hue 6 0\nCaHy/Hue 6 0\n" + others, on), QString("2 Hue Yellow, "));
     QCOMPARE(shown(others, on), QString("0  , "));
+    panel.load(hues, on);
+    QCOMPARE(panel.collected("Cadj"), QString("Cadj=False"));
 }
 
 void TestAdjustments::results()
@@ -316,12 +312,10 @@ void TestAdjustments::noPrinter()
 {
     ColorPanel color;
     color.dialog.loadStates();
-    color.dialog.resetStates();
     color.dialog.checkAdjustmentSettings();
     color.open("custom, balance, hsl");
     MonoPanel mono;
     mono.dialog.loadStates();
-    mono.dialog.resetStates();
     mono.open("custom");
     QCOMPARE(color.values + mono.values, QString());
 }
