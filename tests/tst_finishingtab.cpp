@@ -118,7 +118,6 @@ class TestFinishingTab : public QObject
     Q_OBJECT
 
 private slots:
-    void loadsButtons_data();
     void loadsButtons();
     void orderOfReload();
     void separationOffersWhatThePrinterHas();
@@ -127,38 +126,31 @@ private slots:
     void states();
     void otherFoldStaysUntilItsOwnChange();
     void foldMarks();
-    void oddPrinters_data();
     void oddPrinters();
     void rotateTitles();
     void unavailable();
 };
 
-void TestFinishingTab::loadsButtons_data()
-{
-    QTest::addColumn<QString>("options");
-    QTest::addColumn<QString>("settings");
-    QTest::addColumn<QString>("on");
-    addRow("bi-fold", folds, "FldA=Bifold\ncBiFld=True", "BiFld");
-    addRow("no fold, buttons not saved", folds, "FldA=None", "");
-    addRow("unknown fold", folds, "FldA=bifold\ncTriFld=True", "TriFld");
-    addRow("can't fold, staple or punch", groups, "FldA=Bifold\nStpl=Front\nPnch=2Hole", "");
-    for (const char *place : {"Center2", "DualRear", "FrontLeft", "BookletStitch", "InternalTop"})
-        addRow(place, staples, QString("Stpl=") + place, "Stpl");
-    addRow("no staple", staples, "Stpl=None", "");
-    addRow("holes", punches, "Pnch=2Hole", "Pnch");
-}
-
 void TestFinishingTab::loadsButtons()
 {
-    QFETCH(QString, options);
-    QFETCH(QString, settings);
     Panel panel;
-    panel.load(finisher, "FldA=Trifold\ncTriFld=True"); // a printer before
-    panel.load(options, settings);
-    QTEST(panel.page->on(), "on");
-    QCOMPARE(findNamed<QLabel>(panel.page, "lblHolePunch")->isEnabled(), options.contains("Pnch"));
-    QCOMPARE(findNamed<QLabel>(panel.page, "lblTriFld")->isEnabled(), options.contains("FldA"));
-    QCOMPARE(panel.page->button("BiFld")->isEnabled(), options.contains("FldA"));
+    const auto loaded = [&](const QString &options, const QString &settings) {
+        panel.load(finisher, "FldA=Trifold\ncTriFld=True"); // a printer before
+        panel.load(options, settings);
+        return panel.page->on();
+    };
+    QCOMPARE(loaded(folds, "FldA=Bifold\ncBiFld=True"), QString("BiFld"));
+    QCOMPARE(loaded(folds, "FldA=bifold\ncTriFld=True"), QString("TriFld")); // no such fold
+    QCOMPARE(loaded(folds, "FldA=None"), QString());
+    QVERIFY(!findNamed<QLabel>(panel.page, "lblHolePunch")->isEnabled());
+    for (const char *place : {"Center2", "DualRear", "FrontLeft", "BookletStitch", "InternalTop"})
+        QCOMPARE(loaded(staples, QString("Stpl=") + place), QString("Stpl"));
+    QCOMPARE(loaded(staples, "Stpl=None"), QString());
+    QCOMPARE(loaded(punches, "Pnch=2Hole"), QString("Pnch"));
+    QVERIFY(findNamed<QLabel>(panel.page, "lblHolePunch")->isEnabled());
+    QCOMPARE(loaded(groups, "FldA=Bifold\nStpl=Front\nPnch=2Hole"), QString()); // can do nothing
+    QVERIFY(!findNamed<QLabel>(panel.page, "lblTriFld")->isEnabled());
+    QVERIFY(!panel.page->button("BiFld")->isEnabled());
     QCOMPARE(panel.dialog.takeCalls(), QStringList());
 }
 
@@ -270,9 +262,6 @@ void TestFinishingTab::otherFoldStaysUntilItsOwnChange()
     panel.page->toggle("TriFld-");
     QCOMPARE(panel.dialog.takeCalls(),
              QStringList({"setConstraints Bifold True", "setConstraints Bifold False"}));
-    panel.page->toggle("TriFld+");
-    panel.page->resetForDisabled();
-    QCOMPARE(panel.page->on(), QString());
 }
 
 void TestFinishingTab::foldMarks()
@@ -291,35 +280,28 @@ void TestFinishingTab::foldMarks()
     QCOMPARE(marksOf("FldB", "Bifold"), QString("0 0"));
 }
 
-void TestFinishingTab::oddPrinters_data()
-{
-    addRows({"choices"}, R"(
-no choices                    |
-one choice                    | Front/Front*
-two choices without a default | Front 2Hole
-twenty choices                | A B C D E F G H I J K L M N O P Q R S T
-off by another name           | None/Without* A B
-choices with one text         | A/Off B/Off C/Same D/Same*
-)");
-}
-
 void TestFinishingTab::oddPrinters()
 {
-    QFETCH(QString, choices);
-    QString options = finisher;
-    options.replace(QRegularExpression("^(\\w+).*$", QRegularExpression::MultilineOption),
-                    "\\1 99 " + choices);
-    Panel panel;
-    panel.load(options, "Stpl=Front\nPnch=2Hole\nFldA=Bifold");
-    for (const char *steps : {"TriFld+ BiFld+ Pnch+ Stpl+", "TriFld- BiFld- Pnch- Stpl-"}) {
-        panel.page->toggle(steps);
-        panel.page->chooseEverything();
-        panel.page->runPass();
-        const QHash<QString, QString> settings = panel.page->collectSettings();
-        for (const char *keyword : listKeywords) {
-            const QString value = settings.value(keyword); // none for an empty list
-            QVERIFY(panel.page->on().isEmpty() ? value == "None"
-                                               : value.isNull() || choices.contains(value));
+    // For every option: too few choices, too many, without a default, off by another name, doubled.
+    for (const char *choices :
+         {"", "Front/Front*", "Front 2Hole", "None/Without* A B",
+          "A B C D E F G H I J K L M N O P Q R S T", "A/Off B/Off C/Same D/Same*"}) {
+        QString options = finisher;
+        options.replace(QRegularExpression("^(\\w+).*$", QRegularExpression::MultilineOption),
+                        QString("\\1 99 ") + choices);
+        Panel panel;
+        panel.load(options, "Stpl=Front\nPnch=2Hole\nFldA=Bifold");
+        for (const char *steps : {"TriFld+ BiFld+ Pnch+ Stpl+", "TriFld- BiFld- Pnch- Stpl-"}) {
+            panel.page->toggle(steps);
+            panel.page->chooseEverything();
+            panel.page->runPass();
+            const QHash<QString, QString> settings = panel.page->collectSettings();
+            for (const char *keyword : listKeywords) {
+                const QString value = settings.value(keyword); // none for an empty list
+                QVERIFY(panel.page->on().isEmpty()
+                            ? value == "None"
+                            : value.isNull() || QString(choices).contains(value));
+            }
         }
     }
 }
@@ -337,6 +319,7 @@ void TestFinishingTab::unavailable()
     panel.page->reload(); // without a printer
     panel.page->toggle("TriFld+ BiFld+");
     panel.page->resetForDisabled();
+    QCOMPARE(panel.page->on(), QString());
     panel.load("FldA 6 None/Off* Bifold"); // nothing of it has a widget
     QVERIFY(!panel.page->isAvailable());
     panel.page->markKeyword("FldA", "Bifold");

@@ -170,13 +170,9 @@ class TestTab : public QObject
 private slots:
     void loadsAndLeavesBlockedValues_data();
     void loadsAndLeavesBlockedValues();
-    void changeReachesModelThenDialog_data();
-    void changeReachesModelThenDialog();
-    void uncheckedButtonDrivesItsDependents();
+    void changesReachTheModelThenTheDialog();
     void forcedMovesAreSilentForComboBoxes();
-    void collects_data();
     void collects();
-    void marks_data();
     void marks();
     void reloadOrder();
     void noPrinter();
@@ -255,61 +251,49 @@ void TestTab::loadsAndLeavesBlockedValues()
     }
 }
 
-void TestTab::changeReachesModelThenDialog_data()
+void TestTab::changesReachTheModelThenTheDialog()
 {
-    addRows({"keyword", "value", "calls"}, R"(
-list                               | Media       | 1   | setConstraints Thick
-check box on                       | Skip        | 1   | setConstraints True
-radio button on                    | Draft       | 1   | setConstraints True
-picture check box on               | Tray        | 1   | setConstraints True
-slider                             | Level       | 3   | setConstraints Plus3
-slider at zero                     | Level       | 0   | setConstraints Zero
-slider without that value          | Level       | 4   | setConstraints Minus3
-hue goes in tens                   | CaHueMaster | 5   | setConstraints Hue50
-hue without that value and default | CaHueMaster | 1   | setConstraints Hue-180
-a box moves its dependents first   | Cover       | 1   | setConstraints False, setConstraints True
-)");
-}
-
-void TestTab::changeReachesModelThenDialog()
-{
-    QFETCH(QString, keyword);
-    QFETCH(QString, value);
-    const int number = value.toInt();
     Panel panel;
+    const Page *page = panel.page;
     panel.load("Skip 99 False* True; Draft 99 False* True; Tray 99 False* True; "
                "Level 99 Minus3/-3.0* Zero/0 Plus3/3.0; CaHueMaster 99 Hue-180/-180 Hue50/50; "
-               "%media; %duplex; %cover");
-    panel.page->bound<QSlider>("Level")->setValue(-20);
-    selectValues(*currentStore, "CaHueMaster=Hue-180");
-    panel.dialog.takeCalls();
-    panel.dialog.remark = [&] { return panel.current(keyword); };
-    if (auto *box = panel.page->bound<ComboBoxEx>(keyword))
-        box->setCurrentIndex(number);
-    else if (auto *group = panel.page->bound<BixButtonGroup>(keyword))
-        group->buttonAt(number)->click();
-    else if (auto *slider = panel.page->bound<QSlider>(keyword))
-        slider->setValue(number);
-    else if (auto *picture = panel.page->bound<BixCheckBoxButton>(keyword))
-        picture->findChild<QCheckBox *>()->click();
-    else
-        panel.page->bound<QAbstractButton>(keyword)->click();
-    QTEST(panel.dialog.takeCalls().join(", "), "calls");
-}
+               "%media; %duplex; %cover; Other 99 A; CoverMedia=Thick Other=A",
+               "CoverMedia=Thick");
+    const auto callsAfter = [&](const char *keyword, const std::function<void()> &change) {
+        panel.dialog.remark = [&panel, keyword] { return panel.current(keyword); };
+        change();
+        return panel.dialog.takeCalls().join(", ");
+    };
+    const auto click = [page](const char *keyword) {
+        return [=] { page->bound(keyword)->findChild<QCheckBox *>()->click(); };
+    };
+    QCOMPARE(callsAfter("Media", [&] { page->bound<ComboBoxEx>("Media")->setCurrentIndex(1); }),
+             QString("setConstraints Thick"));
+    QCOMPARE(
+        callsAfter("Duplex", [&] { page->bound<BixButtonGroup>("Duplex")->buttonAt(1)->click(); }),
+        QString("setConstraints NoTumble"));
+    for (const char *keyword : {"Skip", "Draft"})
+        QCOMPARE(callsAfter(keyword, [&] { page->bound<QAbstractButton>(keyword)->click(); }),
+                 QString("setConstraints True"));
+    QCOMPARE(callsAfter("Tray", click("Tray")), QString("setConstraints True"));
 
-void TestTab::uncheckedButtonDrivesItsDependents()
-{
-    Panel panel;
-    panel.load("%cover; Other 99 A; CoverMedia=Thick Other=A", "Cover=True; CoverMedia=Thick");
+    // One that dependents hang on moves them first, unchecked to their off-value.
+    QCOMPARE(callsAfter("Cover", click("Cover")),
+             QString("setConstraints False, setConstraints True"));
+    QCOMPARE(page->shown("CoverMedia"), QString("Plain [Thick]"));
     QCOMPARE(blockedValues(*currentStore), QString("Other=A"));
-    auto *cover = panel.page->bound<BixCheckBoxButton>("Cover");
-    cover->setChecked(false);
+    QCOMPARE(callsAfter("CoverMedia", click("Cover")),
+             QString("setConstraints None, setConstraints None"));
     QCOMPARE(blockedValues(*currentStore), QString());
-    QCOMPARE(panel.current("CoverMedia"), QString("None"));
-    QCOMPARE(panel.current("Cover"), QString("False"));
-    cover->setChecked(true);
-    QCOMPARE(panel.current("CoverMedia"), QString("Thick"));
-    QCOMPARE(panel.page->shown("CoverMedia"), QString("Plain [Thick]"));
+
+    const auto slide = [page](const char *keyword, int value) {
+        return [=] { page->bound<QSlider>(keyword)->setValue(value); };
+    };
+    QCOMPARE(callsAfter("Level", slide("Level", 3)), QString("setConstraints Plus3"));
+    QCOMPARE(callsAfter("Level", slide("Level", 0)), QString("setConstraints Zero"));
+    QCOMPARE(callsAfter("Level", slide("Level", 4)), QString("setConstraints Minus3")); // default
+    QCOMPARE(callsAfter("CaHueMaster", slide("CaHueMaster", 5)), QString("setConstraints Hue50"));
+    QCOMPARE(callsAfter("CaHueMaster", slide("CaHueMaster", 1)), QString("setConstraints Hue50"));
 }
 
 void TestTab::forcedMovesAreSilentForComboBoxes()
@@ -346,97 +330,79 @@ void TestTab::forcedMovesAreSilentForComboBoxes()
     QCOMPARE(blockedValues(*currentStore), QString("Media=Plain Media=Thick"));
 }
 
-void TestTab::collects_data()
-{
-    addRows({"options", "settings", "collected"}, R"(
-list and buttons                 | %media; %duplex | Duplex=Tumble; Media=Env | Duplex=Tumble Media=Env
-check boxes                      | Skip 99 False True*; Tray 99 False* True |  | Skip=True Tray=False
-sliders                          | Level 99 X; CaHueMaster 99 X  |          | CaHueMaster=-180 Level=3.0
-box off, off-value is a choice   | %cover   | CoverMedia=Thick              | Cover=False CoverMedia=Thick
-box off, off-value is an option  | %insert  | InsertMedia=Thick             | Insert=False InsertMedia=Thick InsertOff=Second
-box on                           | %insert  | InsertMedia=Thick; Insert=True| Insert=True InsertMedia=Thick
-)");
-}
-
 void TestTab::collects()
 {
-    QFETCH(QString, options);
-    QFETCH(QString, settings);
     Panel panel;
-    panel.load("Cadj 99 True False; Media 99 Foil");
-    panel.page->collectSettings();
-    panel.load(options, settings);
-    panel.page->bound<QSlider>("Level")->setValue(3);
-    panel.page->bound<QSlider>("CaHueMaster")->setValue(-18);
-    const QHash<QString, QString> collected = panel.page->collectSettings();
-    QStringList lines;
-    for (auto it = collected.cbegin(); it != collected.cend(); ++it)
-        lines << it.key() + '=' + it.value();
-    lines.sort();
-    QTEST(lines.join(' '), "collected");
-}
-
-void TestTab::marks_data()
-{
-    // Steps: + marks, - clears all marks, e explains, x takes an explanation away, c marks as a
-    // constraint widget, r reloads and marks those that are left. In looks "#" is the mark and "_"
-    // a blank; the tool tip follows.
-    addRows({"keyword", "steps", "look", "marked"}, R"(
-label, twice                 | Media  | ++   | Media:#          | 1
-label, a blank each time     | Media  | +-+- | Media:__         | 1
-label, new by a reload       | Media  | +-+r | Media:           | 0
-label, explained twice       | Media  | ee   | Media:#Why       | 0
-label, no longer explained   | Media  | ex   | Media:           | 0
-label, constraint, twice     | Media  | cc   | Media:#          | 1
-label, forgotten by a reload | Media  | cr   | Media:           | 0
-check box                    | Skip   | +    | icon             | 1
-check box, cleared           | Skip   | +-   |                  | 1
-adjustment is never marked   | Cadj   | +    |                  | 0
-buttons                      | Duplex | +    | Duplex:_Off#     | 1
-buttons, twice               | Duplex | ++   | Duplex:_Off_#    | 1
-buttons, cleared             | Duplex | +-   | Duplex:_Off_     | 1
-buttons, the mark explained  | Duplex | +ee  | Duplex:_Off#Why  | 1
-buttons, no longer explained | Duplex | ex   | Duplex:_Off      | 0
-picture check box: the page  | Tray   | +    |                  | 1
-keyword of another page      | Paper  | +    |                  | 0
-)");
+    const auto collected = [&](const QString &options, const QString &settings = QString()) {
+        panel.load(options, settings);
+        panel.page->bound<QSlider>("Level")->setValue(3);
+        panel.page->bound<QSlider>("CaHueMaster")->setValue(-18);
+        const QHash<QString, QString> values = panel.page->collectSettings();
+        QStringList lines;
+        for (auto it = values.cbegin(); it != values.cend(); ++it)
+            lines << it.key() + '=' + it.value();
+        lines.sort();
+        return lines.join(' ');
+    };
+    QCOMPARE(collected("%media; %duplex", "Duplex=Tumble; Media=Env"),
+             QString("Duplex=Tumble Media=Env"));
+    QCOMPARE(collected("Skip 99 False True*; Tray 99 False* True; Draft 99 False True*; Media 99"),
+             QString("Skip=True Tray=False"));
+    QCOMPARE(collected("Level 99 X; CaHueMaster 99 X"), QString("CaHueMaster=-180 Level=3.0"));
+    // Below a button that is off: the off-value is a choice, or names another option.
+    QCOMPARE(collected("%cover", "CoverMedia=Thick"), QString("Cover=False CoverMedia=Thick"));
+    QCOMPARE(collected("%insert", "InsertMedia=Thick"),
+             QString("Insert=False InsertMedia=Thick InsertOff=Second"));
+    QCOMPARE(collected("%insert", "InsertMedia=Thick; Insert=True"),
+             QString("Insert=True InsertMedia=Thick"));
 }
 
 void TestTab::marks()
 {
-    QFETCH(QString, keyword);
-    QFETCH(QString, steps);
     Panel panel;
     Page *page = panel.page;
-    panel.load("Media 99 Plain*; Skip 99 False* True; Cadj 99 False* True; "
-               "Tray 99 False* True; %duplex");
-    const bool isList = keyword == "Media";
-    QWidget *marked = isList ? page->mediaLabel : page->bound(keyword);
-    for (const QChar step : qAsConst(steps)) {
-        if (step == '+') {
-            page->markKeyword(keyword, QString());
-        } else if (step == '-') {
-            page->clearMarks();
-        } else if (step == 'e' || step == 'x') {
-            page->setWidgetMark(marked, "Why", step == 'e');
-        } else {
-            if (step == 'c')
-                page->addConstraintWidget("a", marked);
-            page->setMarked(false);
-            if (step == 'r')
-                page->reload();
-            page->markConstraintWidgets();
+    panel.load("Media 99 Plain*; Skip 99 False* True; Cadj 99 False* True; Tray 99 False* True; "
+               "%duplex");
+    // The label's text and tool tip, "#" for the mark and "_" for a blank.
+    const auto look = [](const QLabel *label) {
+        return label->text().replace(mark, "#").replace(' ', '_') + label->toolTip();
+    };
+    const auto isMarked = [page](const char *keyword) {
+        page->setMarked(false);
+        page->markKeyword(keyword, QString());
+        return page->hasMarks();
+    };
+    const auto *box = page->bound<QCheckBox>("Skip");
+    QVERIFY(isMarked("Media") && isMarked("Media") && isMarked("Skip") && isMarked("Duplex") &&
+            isMarked("Tray"));
+    QVERIFY(!isMarked("Cadj") && !isMarked("KeywordOfAnotherPage"));
+    QVERIFY(!box->icon().isNull() && page->bound<QCheckBox>("Cadj")->icon().isNull());
+    QCOMPARE(look(page->mediaLabel), QString("Media:#")); // once
+    QCOMPARE(look(page->duplexLabel()), QString("Duplex:_Off#"));
+    page->clearMarks(); // leaves the blank before the mark
+    QVERIFY(box->icon().isNull());
+    QCOMPARE(look(page->mediaLabel), QString("Media:_"));
+    QCOMPARE(look(page->duplexLabel()), QString("Duplex:_Off_"));
+    page->reload(); // sets the texts anew
+
+    for (QWidget *widget : {static_cast<QWidget *>(page->mediaLabel), page->bound("Duplex")}) {
+        const auto *label = widget == page->mediaLabel ? page->mediaLabel : page->duplexLabel();
+        const QString plain = look(label);
+        for (const bool on : {true, true, false}) {
+            page->setWidgetMark(widget, "Why", on);
+            QCOMPARE(look(label), on ? plain + "#Why" : plain);
         }
+        page->addConstraintWidget(label->text(), widget);
+        page->setMarked(false);
+        page->markConstraintWidgets();
+        page->markConstraintWidgets();
+        QVERIFY(page->hasMarks() && look(label).count('#') == 1);
     }
-    QString look;
-    if (const auto *check = page->bound<QCheckBox>(keyword)) {
-        look = check->icon().isNull() ? "" : "icon";
-    } else if (isList || keyword == "Duplex") {
-        const QLabel *label = isList ? page->mediaLabel : page->duplexLabel();
-        look = label->text().replace(mark, "#").replace(' ', '_') + label->toolTip();
-    }
-    QTEST(look, "look");
-    QTEST(QString::number(page->hasMarks()), "marked");
+    page->reload(); // forgets them
+    page->setMarked(false);
+    page->markConstraintWidgets();
+    QVERIFY(!page->hasMarks());
+    QCOMPARE(look(page->mediaLabel), QString("Media:"));
 }
 
 void TestTab::reloadOrder()
