@@ -39,14 +39,9 @@ public:
     void afterLoad() override { note("afterLoad"); }
     bool enableOptions() override { return note("enableOptions"), ImagingTab::enableOptions(); }
 
-    ComboBoxEx *list(const QString &name) const
+    ComboBoxEx *list(const char *keyword) const
     {
-        // Not findNamed(), since the levels may be hidden.
-        for (ComboBoxEx *box : findChildren<ComboBoxEx *>()) {
-            if (box->accessibleName() == "cmbBx" + name)
-                return box;
-        }
-        return nullptr;
+        return qobject_cast<ComboBoxEx *>(boundWidgets.value(keyword));
     }
     BixButtonGroup *leanPrint() const { return findNamed<BixButtonGroup>(this, "butGroupLnpr"); }
     /// LeanPrint as the user sees it: "Off", "On: Five", with "-" before what is greyed.
@@ -56,7 +51,7 @@ public:
             return (widget->isEnabled() ? "" : "-") + current;
         };
         const QString group = text(leanPrint(), leanPrint()->currentText());
-        const ComboBoxEx *levels = list("Lnpr");
+        const ComboBoxEx *levels = list("cLnpr");
         return levels->isHidden() ? group : group + ": " + text(levels, levels->currentText());
     }
     /// All settings as "Keyword=value", sorted, but of the adjustments only how many there are.
@@ -76,7 +71,7 @@ public:
 private:
     void note(const char *step)
     {
-        steps << step + QString(boundWidgets.value("Trap")->signalsBlocked() ? "" : " loud");
+        steps << step + QString(list("Trap")->signalsBlocked() ? "" : " loud");
     }
 };
 
@@ -159,7 +154,7 @@ void TestImagingTab::leanPrint()
             selectValues(*currentStore, "Policy=On");
             QCOMPARE(panel.page->enableOptions(), step.endsWith('+'));
         } else if (step[0].isDigit()) {
-            panel.page->list("Lnpr")->setCurrentIndex(step.toInt());
+            panel.page->list("cLnpr")->setCurrentIndex(step.toInt());
         } else {
             panel.page->leanPrint()->buttonAt(step == "on")->click();
         }
@@ -216,7 +211,7 @@ void TestImagingTab::clicksReachModelAndDialog()
     QCOMPARE(panel.dialog.takeCalls(),
              QStringList({"toggleColorMode CMYKTrueOff", "setConstraints GrayFalseOff"}));
     panel.page->leanPrint()->buttonAt(1)->click();
-    panel.page->list("Lnpr")->setCurrentIndex(0);
+    panel.page->list("cLnpr")->setCurrentIndex(0);
     // The list moves first, while the level still counts.
     panel.page->leanPrint()->buttonAt(0)->click();
     QCOMPARE(panel.dialog.takeCalls(),
@@ -295,12 +290,12 @@ void TestImagingTab::roundTrip()
     Panel panel;
     panel.load(everything, lines.join('\n'));
     // Everything else away from its default.
-    for (const char *name : {"Trap", "CIE", "BXSCREENMODE", "Resolution", "Crep", "RCM"})
+    for (const char *name : {"Trap", "CIE", "BSCREENMODE", "Resolution", "Crep", "RCM"})
         panel.page->list(name)->setCurrentIndex(1);
     for (const char *name : {"chkBxBXGlossMode", "chkBxSmoothing", "chkBxGBTn"})
         findNamed<QCheckBox>(panel.page, name)->click();
     panel.page->leanPrint()->buttonAt(1)->click();
-    panel.page->list("Lnpr")->setCurrentIndex(4);
+    panel.page->list("cLnpr")->setCurrentIndex(4);
     panel.colorGroup->buttonAt(adjusted.startsWith("Madj"))->click();
     const QHash<QString, QString> settings = panel.page->collectSettings();
     for (const QString &line : lines)

@@ -25,7 +25,7 @@ public:
     explicit Page(PanelDialog *dialog)
         : Tab(dialog)
     {
-        createWidgets();
+        Page::createWidgets();
         connectBoundWidgets();
         connectBoundWidgets(); // adds nothing
     }
@@ -171,7 +171,7 @@ private slots:
     void loadsAndLeavesBlockedValues_data();
     void loadsAndLeavesBlockedValues();
     void changesReachTheModelThenTheDialog();
-    void forcedMovesAreSilentForComboBoxes();
+    void forcedMoves();
     void collects();
     void marks();
     void reloadOrder();
@@ -296,7 +296,7 @@ void TestTab::changesReachTheModelThenTheDialog()
     QCOMPARE(callsAfter("CaHueMaster", slide("CaHueMaster", 1)), QString("setConstraints Hue50"));
 }
 
-void TestTab::forcedMovesAreSilentForComboBoxes()
+void TestTab::forcedMoves()
 {
     Panel panel;
     panel.load("Force 1 Off On Back; Media 99 Plain* Thick; Skip 99 False True*; Other 99 A B; "
