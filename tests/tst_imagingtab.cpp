@@ -163,6 +163,9 @@ void TestImagingTab::leanPrint()
     QTEST(panel.current("Lnpr"), "current");
     QTEST(panel.page->collectSettings().value("Lnpr"), "stored");
     if (!rule.isEmpty()) {
+        const auto *label = panel.page->leanPrint()->findChild<QLabel *>();
+        QVERIFY(label->palette().color(QPalette::Disabled, QPalette::WindowText) !=
+                QColor(0x9f, 0x9e, 0x9e)); // it reads as always
         selectValues(*currentStore, "Policy=Off");
         QVERIFY(!panel.page->enableOptions());
         QVERIFY(panel.page->leanPrintText().startsWith("On")); // free to change it again

@@ -77,8 +77,11 @@ void TestUserLoginTab::roundTrip()
     panel.name->setText(longest + "more");
     panel.password->setText("p\\w=# Ω");
     Panel fresh;
+    fresh.button->setChecked(true); // without a name
+    fresh.dialog.takeCalls();
     fresh.load(Settings(panel.page->extraSettings()));
     QCOMPARE(fresh.shown(), QString("on %1 p\\w=# Ω").arg(longest));
+    QVERIFY(fresh.error->isHidden());
     QCOMPARE(fresh.dialog.takeCalls(), QStringList());
     panel.name->clear(); // a password alone is no login
     fresh.load(Settings(panel.page->extraSettings()));
