@@ -24,17 +24,16 @@ constexpr Command commands[] = {
     {"click", prepareClick},   {"choose", prepareChoose},       {"type", prepareType},
     {"key", prepareKey},       {"activate", prepareActivate},   {"close", prepareClose},
     {"state", queryState},     {"table", queryTable},           {"tabs", queryTabs},
-    {"windows", queryWindows}, {"messageBox", queryMessageBox}, {"focus", queryFocus},
-    {"grab", grabToFile},
+    {"windows", queryWindows}, {"messageBox", queryMessageBox}, {"grab", grabToFile},
 };
 
 Outcome run(const QJsonObject &request)
 {
-    const QString name = request.value(QLatin1String("command")).toString();
+    const QString name = request.value("command").toString();
     for (const Command &command : commands)
         if (name == QLatin1String(command.name))
             return command.run(request);
-    return Outcome::failure(QStringLiteral("unknown command \"%1\"").arg(name));
+    return Outcome::failure(QString("unknown command \"%1\"").arg(name));
 }
 
 // Long enough for the X server to answer what the panel has just asked of it.
@@ -80,8 +79,8 @@ void DriverServer::readRequests()
 
 void DriverServer::handle(const QJsonObject &request)
 {
-    const QString id = QStringLiteral("id");
-    if (request.value(QLatin1String("command")) == QLatin1String("sync")) {
+    const QString id = "id";
+    if (request.value("command") == "sync") {
         answerWhenIdle({{id, request.value(id)}}, 0, maxRounds);
         return;
     }
@@ -98,7 +97,7 @@ void DriverServer::answerWhenIdle(const QJsonObject &reply, int quietRounds, int
         send(reply);
     } else if (roundsLeft == 0) {
         QJsonObject failed = reply;
-        failed.insert(QStringLiteral("error"), QStringLiteral("the event loop never came to rest"));
+        failed.insert("error", "the event loop never came to rest");
         send(failed);
     } else {
         QTimer::singleShot(roundMs, this, [=] {

@@ -21,7 +21,7 @@ class QLocalSocket;
 /// - choose: "item" (text or index) of a combo box
 /// - type:   "text";  key: "keys" in the notation of QKeySequence, such as "Ctrl+A"
 /// - activate, close: the target's window, or the front window
-/// - state, table, tabs, windows, messageBox, focus: see widgetstate.h
+/// - state, table, tabs, windows, messageBox: see widgetstate.h
 /// - grab:   "path" of a PNG file; "screen": true for all of the screen; without a target the
 ///           front window
 /// - sync:   answered when all events have been handled, whatever loop is running then

@@ -13,8 +13,5 @@ struct Outcome
     QJsonObject reply;
     std::function<void()> action; ///< empty for a query
 
-    static Outcome failure(const QString &message)
-    {
-        return {{{QStringLiteral("error"), message}}, {}};
-    }
+    static Outcome failure(const QString &message) { return {{{"error", message}}, {}}; }
 };

@@ -6,8 +6,7 @@ QObject *PanelDriverPlugin::create(const QString &name, const QString &specifica
 {
     Q_UNUSED(specification)
     const QString socketPath = qEnvironmentVariable("PRESSDESK_DRIVER_SOCKET");
-    if (name.compare(QLatin1String("pressdeskdriver"), Qt::CaseInsensitive) != 0 ||
-        socketPath.isEmpty())
+    if (name.compare("pressdeskdriver", Qt::CaseInsensitive) != 0 || socketPath.isEmpty())
         return nullptr;
     return new DriverServer(socketPath);
 }

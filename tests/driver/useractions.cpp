@@ -32,7 +32,7 @@ Spot noSpot(const QString &error)
 
 QJsonObject target(const QJsonObject &request)
 {
-    return request.value(QLatin1String("target")).toObject();
+    return request.value("target").toObject();
 }
 
 // The place of an entry that is given by its number or its text; -1 if there is none.
@@ -44,23 +44,23 @@ int entryIndex(const QJsonValue &wanted, const QStringList &texts)
 
 QString entryError(const QString &what, const QJsonValue &wanted, const QStringList &texts)
 {
-    return QStringLiteral("there is no %1 \"%2\" among: %3")
-        .arg(what, wanted.toVariant().toString(), texts.join(QStringLiteral(", ")));
+    return QString("there is no %1 \"%2\" among: %3")
+        .arg(what, wanted.toVariant().toString(), texts.join(", "));
 }
 
 Spot tabSpot(QWidget *widget, const QJsonValue &wanted)
 {
     auto *bar = qobject_cast<QTabBar *>(widget);
     if (!bar)
-        return noSpot(QStringLiteral("the widget is no tab bar"));
+        return noSpot("the widget is no tab bar");
     QStringList titles;
     for (int index = 0; index < bar->count(); ++index)
         titles.append(withoutMnemonic(bar->tabText(index)));
     const int index = entryIndex(wanted, titles);
     if (index < 0)
-        return noSpot(entryError(QStringLiteral("tab"), wanted, titles));
+        return noSpot(entryError("tab", wanted, titles));
     if (!bar->isTabEnabled(index) || bar->tabRect(index).isEmpty())
-        return noSpot(QStringLiteral("the tab \"%1\" is not available").arg(titles.at(index)));
+        return noSpot(QString("the tab \"%1\" is not available").arg(titles.at(index)));
     return {bar, bar->tabRect(index).center(), QString()};
 }
 
@@ -68,13 +68,13 @@ Spot cellSpot(QWidget *widget, const QJsonValue &wanted, int column)
 {
     auto *view = qobject_cast<QAbstractItemView *>(widget);
     if (!view || !view->model())
-        return noSpot(QStringLiteral("the widget is no table"));
+        return noSpot("the widget is no table");
     QStringList texts;
     for (int row = 0; row < view->model()->rowCount(); ++row)
         texts.append(view->model()->index(row, column).data().toString());
     const QModelIndex index = view->model()->index(entryIndex(wanted, texts), column);
     if (!index.isValid())
-        return noSpot(entryError(QStringLiteral("row"), wanted, texts));
+        return noSpot(entryError("row", wanted, texts));
     view->scrollTo(index);
     // Of a wide cell only the shown part can be clicked.
     const QRect shown = view->visualRect(index) & view->viewport()->rect();
@@ -94,7 +94,7 @@ Spot groupButtonSpot(QWidget *widget, const QJsonValue &wanted)
     }
     const int index = entryIndex(wanted, names);
     if (index < 0)
-        return noSpot(entryError(QStringLiteral("button"), wanted, names));
+        return noSpot(entryError("button", wanted, names));
     return {buttons.at(index), buttons.at(index)->rect().center(), QString()};
 }
 
@@ -124,19 +124,18 @@ Spot widgetSpot(QWidget *widget)
 Spot findSpot(const QJsonObject &request)
 {
     QJsonObject wanted = target(request);
-    const QJsonValue tab = request.value(QLatin1String("tab"));
+    const QJsonValue tab = request.value("tab");
     if (wanted.isEmpty() && !tab.isUndefined())
-        wanted.insert(QStringLiteral("class"), QStringLiteral("QTabBar"));
+        wanted.insert("class", "QTabBar");
     QWidget *widget = findVisibleWidget(wanted);
     if (!widget)
         return noSpot(notFoundMessage(wanted));
     if (!tab.isUndefined())
         return tabSpot(widget, tab);
-    if (request.contains(QLatin1String("row")))
-        return cellSpot(widget, request.value(QLatin1String("row")),
-                        request.value(QLatin1String("column")).toInt());
-    if (request.contains(QLatin1String("button")))
-        return groupButtonSpot(widget, request.value(QLatin1String("button")));
+    if (request.contains("row"))
+        return cellSpot(widget, request.value("row"), request.value("column").toInt());
+    if (request.contains("button"))
+        return groupButtonSpot(widget, request.value("button"));
     return widgetSpot(widget);
 }
 
@@ -145,11 +144,11 @@ QString obstacle(const QWidget *window)
 {
     const QWidget *popup = QApplication::activePopupWidget();
     if (popup && popup != window)
-        return QStringLiteral("a pop-up of class %1 is open")
+        return QString("a pop-up of class %1 is open")
             .arg(QLatin1String(popup->metaObject()->className()));
     const QWidget *modal = QApplication::activeModalWidget();
     if (modal && modal != window && !modal->isAncestorOf(window) && popup != window)
-        return QStringLiteral("the modal window \"%1\" of class %2 is open")
+        return QString("the modal window \"%1\" of class %2 is open")
             .arg(modal->windowTitle(), QLatin1String(modal->metaObject()->className()));
     return QString();
 }
@@ -173,18 +172,18 @@ QString clickError(const Spot &spot)
     if (!blocked.isEmpty())
         return blocked;
     if (!spot.widget->isEnabled())
-        return QStringLiteral("the widget is disabled");
+        return "the widget is disabled";
     scrollIntoView(spot.widget, spot.point);
     const QPoint point = spot.widget->mapTo(window, spot.point);
     const QWidget *hit = window->childAt(point);
     if (spot.widget != window && hit != spot.widget && !spot.widget->isAncestorOf(hit))
-        return QStringLiteral("the widget is covered by %1 \"%2\"")
-            .arg(hit ? QLatin1String(hit->metaObject()->className()) : QLatin1String("nothing"),
+        return QString("the widget is covered by %1 \"%2\"")
+            .arg(hit ? hit->metaObject()->className() : "nothing",
                  hit ? hit->accessibleName() : QString());
     return QString();
 }
 
-void clickAt(const Spot &spot, bool twice = false)
+void clickAt(const Spot &spot)
 {
     if (!spot.widget)
         return;
@@ -193,10 +192,7 @@ void clickAt(const Spot &spot, bool twice = false)
     // As a window manager does at a click into another window.
     if (!window->isActiveWindow() && window->windowType() != Qt::Popup)
         window->activateWindow();
-    if (twice)
-        QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
-    else
-        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
 }
 
 void movePointerTo(const Spot &spot)
@@ -230,8 +226,7 @@ Outcome prepareClick(const QJsonObject &request)
     const QString error = clickError(spot);
     if (!error.isEmpty())
         return Outcome::failure(error);
-    const bool twice = request.value(QLatin1String("double")).toBool();
-    return {{}, [spot, twice] { clickAt(spot, twice); }};
+    return {{}, [spot] { clickAt(spot); }};
 }
 
 Outcome prepareChoose(const QJsonObject &request)
@@ -240,24 +235,24 @@ Outcome prepareChoose(const QJsonObject &request)
     auto *box = qobject_cast<QComboBox *>(spot.widget.data());
     QString error = clickError(spot);
     if (error.isEmpty() && !box)
-        error = QStringLiteral("the widget is no combo box");
+        error = "the widget is no combo box";
     if (!error.isEmpty())
         return Outcome::failure(error);
     QStringList texts;
     for (int row = 0; row < box->count(); ++row)
         texts.append(box->itemText(row));
-    const QJsonValue wanted = request.value(QLatin1String("item"));
+    const QJsonValue wanted = request.value("item");
     const int row = entryIndex(wanted, texts);
     const QModelIndex index = box->model()->index(row, box->modelColumn(), box->rootModelIndex());
     if (row < 0)
-        return Outcome::failure(entryError(QStringLiteral("item"), wanted, texts));
+        return Outcome::failure(entryError("item", wanted, texts));
     if (!index.flags().testFlag(Qt::ItemIsEnabled))
-        return Outcome::failure(QStringLiteral("the item \"%1\" is disabled").arg(texts.at(row)));
+        return Outcome::failure(QString("the item \"%1\" is disabled").arg(texts.at(row)));
 
     clickAt(spot);
     QAbstractItemView *list = box->view();
     if (!list->isVisible())
-        return Outcome::failure(QStringLiteral("the list did not open"));
+        return Outcome::failure("the list did not open");
     // The list takes no click before the pointer has moved a bit: it could be the end of the
     // click that opened it.
     movePointerTo({list->viewport(), list->viewport()->rect().bottomRight(), QString()});
@@ -271,17 +266,16 @@ Outcome prepareChoose(const QJsonObject &request)
     movePointerTo(item);
     if (list->currentIndex() != index) {
         box->hidePopup();
-        return Outcome::failure(
-            QStringLiteral("the item \"%1\" cannot be reached").arg(texts.at(row)));
+        return Outcome::failure(QString("the item \"%1\" cannot be reached").arg(texts.at(row)));
     }
     return {{}, [item] { clickAt(item); }};
 }
 
 Outcome prepareType(const QJsonObject &request)
 {
-    const QString text = request.value(QLatin1String("text")).toString();
+    const QString text = request.value("text").toString();
     if (!keyboardWindow())
-        return Outcome::failure(QStringLiteral("there is no window to type into"));
+        return Outcome::failure("there is no window to type into");
     return {{}, [text] {
                 for (const QChar character : text) {
                     QWindow *window = keyboardWindow();
@@ -300,12 +294,12 @@ Outcome prepareType(const QJsonObject &request)
 
 Outcome prepareKey(const QJsonObject &request)
 {
-    const QString keys = request.value(QLatin1String("keys")).toString();
+    const QString keys = request.value("keys").toString();
     const QKeySequence sequence(keys, QKeySequence::PortableText);
     if (sequence.count() != 1 || sequence[0] == Qt::Key_unknown)
-        return Outcome::failure(QStringLiteral("\"%1\" is no key combination").arg(keys));
+        return Outcome::failure(QString("\"%1\" is no key combination").arg(keys));
     if (!keyboardWindow())
-        return Outcome::failure(QStringLiteral("no window takes keys"));
+        return Outcome::failure("no window takes keys");
     const int combination = sequence[0];
     return {{}, [combination] {
                 QTest::keyClick(

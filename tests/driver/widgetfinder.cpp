@@ -25,14 +25,14 @@ bool matches(QWidget *widget, const QJsonObject &target)
     for (auto it = target.begin(); it != target.end(); ++it) {
         const QString wanted = it.value().toString();
         bool fits = false;
-        if (it.key() == QLatin1String("name")) {
+        if (it.key() == "name") {
             fits = widget->accessibleName() == wanted;
-        } else if (it.key() == QLatin1String("class")) {
+        } else if (it.key() == "class") {
             fits = widget->inherits(wanted.toLatin1().constData());
-        } else if (it.key() == QLatin1String("text")) {
+        } else if (it.key() == "text") {
             auto *button = qobject_cast<QAbstractButton *>(widget);
             fits = button && withoutMnemonic(button->text()) == wanted;
-        } else if (it.key() == QLatin1String("standardButton")) {
+        } else if (it.key() == "standardButton") {
             fits = isStandardButton(widget, wanted);
         }
         if (!fits)
@@ -85,8 +85,8 @@ QWidget *findVisibleWidget(const QJsonObject &target)
 QString notFoundMessage(const QJsonObject &target)
 {
     const QString wanted = QString::fromUtf8(QJsonDocument(target).toJson(QJsonDocument::Compact));
-    return find(target, false) ? QStringLiteral("the widget %1 is hidden").arg(wanted)
-                               : QStringLiteral("there is no widget %1").arg(wanted);
+    return find(target, false) ? QString("the widget %1 is hidden").arg(wanted)
+                               : QString("there is no widget %1").arg(wanted);
 }
 
 QList<QWidget *> windowsFrontToBack()
@@ -109,6 +109,6 @@ QWidget *frontWindow()
 
 QString withoutMnemonic(QString text)
 {
-    static const QRegularExpression mark(QStringLiteral("&(.)"));
-    return text.replace(mark, QStringLiteral("\\1"));
+    static const QRegularExpression mark("&(.)");
+    return text.replace(mark, "\\1");
 }

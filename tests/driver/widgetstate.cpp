@@ -26,14 +26,14 @@ QJsonArray toJson(const QRect &rect)
 
 QJsonObject target(const QJsonObject &request)
 {
-    return request.value(QLatin1String("target")).toObject();
+    return request.value("target").toObject();
 }
 
 void addText(QJsonObject *state, const QWidget *widget)
 {
     for (const char *property : {"text", "plainText", "title"}) {
         if (widget->metaObject()->indexOfProperty(property) >= 0) {
-            state->insert(QStringLiteral("text"), widget->property(property).toString());
+            state->insert("text", widget->property(property).toString());
             return;
         }
     }
@@ -53,14 +53,13 @@ void addComboBox(QJsonObject *state, const QComboBox *box)
     for (int row = 0; row < box->count(); ++row) {
         const QModelIndex index =
             box->model()->index(row, box->modelColumn(), box->rootModelIndex());
-        items.append(
-            QJsonObject{{QStringLiteral("text"), box->itemText(row)},
-                        {QStringLiteral("enabled"), index.flags().testFlag(Qt::ItemIsEnabled)}});
+        items.append(QJsonObject{{"text", box->itemText(row)},
+                                 {"enabled", index.flags().testFlag(Qt::ItemIsEnabled)}});
     }
-    state->insert(QStringLiteral("items"), items);
-    state->insert(QStringLiteral("currentIndex"), box->currentIndex());
-    state->insert(QStringLiteral("currentText"), box->currentText());
-    state->insert(QStringLiteral("popup"), box->view()->isVisible());
+    state->insert("items", items);
+    state->insert("currentIndex", box->currentIndex());
+    state->insert("currentText", box->currentText());
+    state->insert("popup", box->view()->isVisible());
 }
 
 void addButtonGroup(QJsonObject *state, const QWidget *group)
@@ -71,18 +70,17 @@ void addButtonGroup(QJsonObject *state, const QWidget *group)
         // Buttons that the group has given up stay its children.
         if (button->isHidden())
             continue;
-        buttons.append(QJsonObject{{QStringLiteral("name"), button->accessibleName()},
-                                   {QStringLiteral("checked"), button->isChecked()},
-                                   {QStringLiteral("enabled"), button->isEnabled()}});
+        buttons.append(QJsonObject{{"name", button->accessibleName()},
+                                   {"checked", button->isChecked()},
+                                   {"enabled", button->isEnabled()}});
         if (button->isChecked())
-            state->insert(QStringLiteral("currentText"), button->accessibleName());
+            state->insert("currentText", button->accessibleName());
     }
-    state->insert(QStringLiteral("buttons"), buttons);
+    state->insert("buttons", buttons);
     if (const auto *label = group->findChild<QLabel *>()) {
-        state->insert(QStringLiteral("text"), label->text());
-        state->insert(QStringLiteral("toolTip"), label->toolTip());
-        state->insert(QStringLiteral("color"),
-                      label->palette().color(label->foregroundRole()).name());
+        state->insert("text", label->text());
+        state->insert("toolTip", label->toolTip());
+        state->insert("color", label->palette().color(label->foregroundRole()).name());
     }
 }
 
@@ -90,16 +88,16 @@ QJsonObject stateOf(QWidget *widget)
 {
     QWidget *window = widget->window();
     QJsonObject state{
-        {QStringLiteral("class"), QLatin1String(widget->metaObject()->className())},
-        {QStringLiteral("name"), widget->accessibleName()},
-        {QStringLiteral("visible"), widget->isVisible()},
-        {QStringLiteral("enabled"), widget->isEnabled()},
-        {QStringLiteral("focus"), widget->hasFocus()},
-        {QStringLiteral("toolTip"), widget->toolTip()},
-        {QStringLiteral("rect"), toJson({widget->mapTo(window, QPoint()), widget->size()})},
-        {QStringLiteral("sizeHint"), toJson({QPoint(), widget->sizeHint()})},
-        {QStringLiteral("color"), widget->palette().color(widget->foregroundRole()).name()},
-        {QStringLiteral("windowTitle"), window->windowTitle()},
+        {"class", QLatin1String(widget->metaObject()->className())},
+        {"name", widget->accessibleName()},
+        {"visible", widget->isVisible()},
+        {"enabled", widget->isEnabled()},
+        {"focus", widget->hasFocus()},
+        {"toolTip", widget->toolTip()},
+        {"rect", toJson({widget->mapTo(window, QPoint()), widget->size()})},
+        {"sizeHint", toJson({QPoint(), widget->sizeHint()})},
+        {"color", widget->palette().color(widget->foregroundRole()).name()},
+        {"windowTitle", window->windowTitle()},
     };
     addText(&state, widget);
     addNumbers(&state, widget);
@@ -110,7 +108,7 @@ QJsonObject stateOf(QWidget *widget)
             addText(&state, checkable);
     }
     if (const auto *button = qobject_cast<const QAbstractButton *>(checkable))
-        state.insert(QStringLiteral("checked"), button->isChecked());
+        state.insert("checked", button->isChecked());
     if (const auto *box = qobject_cast<const QComboBox *>(widget))
         addComboBox(&state, box);
     if (widget->inherits("BixButtonGroup"))
@@ -125,14 +123,14 @@ Outcome queryState(const QJsonObject &request)
     QWidget *widget = findWidget(target(request));
     if (!widget)
         return Outcome::failure(notFoundMessage(target(request)));
-    return {{{QStringLiteral("state"), stateOf(widget)}}, {}};
+    return {{{"state", stateOf(widget)}}, {}};
 }
 
 Outcome queryTable(const QJsonObject &request)
 {
     auto *view = qobject_cast<QAbstractItemView *>(findWidget(target(request)));
     if (!view)
-        return Outcome::failure(QStringLiteral("no table: ") + notFoundMessage(target(request)));
+        return Outcome::failure("no table: " + notFoundMessage(target(request)));
     const QAbstractItemModel *model = view->model();
     const int columns = model ? model->columnCount() : 0;
     QJsonArray headers;
@@ -148,16 +146,16 @@ Outcome queryTable(const QJsonObject &request)
         if (view->selectionModel()->rowIntersectsSelection(row, QModelIndex()))
             selectedRows.append(row);
     }
-    QJsonObject reply{{QStringLiteral("headers"), headers},
-                      {QStringLiteral("rows"), rows},
-                      {QStringLiteral("selectedRows"), selectedRows},
-                      {QStringLiteral("currentRow"), view->currentIndex().row()},
-                      {QStringLiteral("currentColumn"), view->currentIndex().column()}};
+    QJsonObject reply{{"headers", headers},
+                      {"rows", rows},
+                      {"selectedRows", selectedRows},
+                      {"currentRow", view->currentIndex().row()},
+                      {"currentColumn", view->currentIndex().column()}};
     if (const auto *tableView = qobject_cast<QTableView *>(view)) {
         QJsonArray widths;
         for (int column = 0; column < columns; ++column)
             widths.append(tableView->columnWidth(column));
-        reply.insert(QStringLiteral("columnWidths"), widths);
+        reply.insert("columnWidths", widths);
     }
     return {reply, {}};
 }
@@ -166,23 +164,22 @@ Outcome queryTabs(const QJsonObject &request)
 {
     QJsonObject wanted = target(request);
     if (wanted.isEmpty())
-        wanted.insert(QStringLiteral("class"), QStringLiteral("QTabBar"));
+        wanted.insert("class", "QTabBar");
     const auto *bar = qobject_cast<QTabBar *>(findVisibleWidget(wanted));
     if (!bar)
-        return Outcome::failure(QStringLiteral("no tab bar: ") + notFoundMessage(wanted));
+        return Outcome::failure("no tab bar: " + notFoundMessage(wanted));
     QJsonArray tabs;
     for (int index = 0; index < bar->count(); ++index) {
         const QRect rect = bar->tabRect(index);
         tabs.append(QJsonObject{
-            {QStringLiteral("text"), withoutMnemonic(bar->tabText(index))},
-            {QStringLiteral("enabled"), bar->isTabEnabled(index)},
-            {QStringLiteral("current"), index == bar->currentIndex()},
-            {QStringLiteral("rect"),
-             toJson(rect.isEmpty()
-                        ? QRect(0, 0, 0, 0)
-                        : QRect(bar->mapTo(bar->window(), rect.topLeft()), rect.size()))}});
+            {"text", withoutMnemonic(bar->tabText(index))},
+            {"enabled", bar->isTabEnabled(index)},
+            {"current", index == bar->currentIndex()},
+            {"rect", toJson(rect.isEmpty()
+                                ? QRect(0, 0, 0, 0)
+                                : QRect(bar->mapTo(bar->window(), rect.topLeft()), rect.size()))}});
     }
-    return {{{QStringLiteral("tabs"), tabs}}, {}};
+    return {{{"tabs", tabs}}, {}};
 }
 
 Outcome queryWindows(const QJsonObject &request)
@@ -191,48 +188,39 @@ Outcome queryWindows(const QJsonObject &request)
     QJsonArray windows;
     const auto all = windowsFrontToBack();
     for (const QWidget *window : all)
-        windows.append(
-            QJsonObject{{QStringLiteral("class"), QLatin1String(window->metaObject()->className())},
-                        {QStringLiteral("title"), window->windowTitle()},
-                        {QStringLiteral("visible"), window->isVisible()},
-                        {QStringLiteral("active"), window->isActiveWindow()},
-                        {QStringLiteral("modal"), window->isModal()},
-                        {QStringLiteral("rect"), toJson(window->frameGeometry())}});
-    return {{{QStringLiteral("windows"), windows}}, {}};
+        windows.append(QJsonObject{{"class", QLatin1String(window->metaObject()->className())},
+                                   {"title", window->windowTitle()},
+                                   {"visible", window->isVisible()},
+                                   {"active", window->isActiveWindow()},
+                                   {"modal", window->isModal()},
+                                   {"rect", toJson(window->frameGeometry())}});
+    return {{{"windows", windows}}, {}};
 }
 
 Outcome queryMessageBox(const QJsonObject &request)
 {
     Q_UNUSED(request)
-    const auto *box = qobject_cast<QMessageBox *>(
-        findVisibleWidget({{QStringLiteral("class"), QStringLiteral("QMessageBox")}}));
+    const auto *box = qobject_cast<QMessageBox *>(findVisibleWidget({{"class", "QMessageBox"}}));
     QJsonObject state;
     if (box) {
         QJsonArray buttons;
         const auto all = box->buttons();
         for (const QAbstractButton *button : all)
             buttons.append(withoutMnemonic(button->text()));
-        state = {{QStringLiteral("title"), box->windowTitle()},
-                 {QStringLiteral("text"), box->text()},
-                 {QStringLiteral("informativeText"), box->informativeText()},
-                 {QStringLiteral("rect"), toJson(box->geometry())},
-                 {QStringLiteral("buttons"), buttons}};
+        state = {{"title", box->windowTitle()},
+                 {"text", box->text()},
+                 {"informativeText", box->informativeText()},
+                 {"rect", toJson(box->geometry())},
+                 {"buttons", buttons}};
     }
-    return {{{QStringLiteral("messageBox"), state}}, {}};
-}
-
-Outcome queryFocus(const QJsonObject &request)
-{
-    Q_UNUSED(request)
-    QWidget *widget = QApplication::focusWidget();
-    return {{{QStringLiteral("state"), widget ? stateOf(widget) : QJsonObject()}}, {}};
+    return {{{"messageBox", state}}, {}};
 }
 
 Outcome grabToFile(const QJsonObject &request)
 {
-    const QString path = request.value(QLatin1String("path")).toString();
+    const QString path = request.value("path").toString();
     QPixmap picture;
-    if (request.value(QLatin1String("screen")).toBool()) {
+    if (request.value("screen").toBool()) {
         picture = QGuiApplication::primaryScreen()->grabWindow(0);
     } else {
         const QJsonObject wanted = target(request);
@@ -242,6 +230,6 @@ Outcome grabToFile(const QJsonObject &request)
         picture = widget->grab();
     }
     if (!picture.save(path, "PNG"))
-        return Outcome::failure(QStringLiteral("cannot save the picture as %1").arg(path));
-    return {{{QStringLiteral("size"), QJsonArray{picture.width(), picture.height()}}}, {}};
+        return Outcome::failure(QString("cannot save the picture as %1").arg(path));
+    return {{{"size", QJsonArray{picture.width(), picture.height()}}}, {}};
 }

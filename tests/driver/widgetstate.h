@@ -21,8 +21,5 @@ Outcome queryWindows(const QJsonObject &request);
 /// object if there is none.
 Outcome queryMessageBox(const QJsonObject &request);
 
-/// "state" of the widget with the keyboard focus, an empty object if none has it.
-Outcome queryFocus(const QJsonObject &request);
-
 /// Saves a picture as the PNG file "path"; "size" is what was saved, in pixels.
 Outcome grabToFile(const QJsonObject &request);

@@ -46,16 +46,13 @@ private:
         : QObject(parent)
     {
         m_server.setStandardErrorFile(QProcess::nullDevice());
-        m_server.start(QStringLiteral("Xvfb"),
-                       {QStringLiteral("-displayfd"), QStringLiteral("1"),
-                        QStringLiteral("-screen"), QStringLiteral("0"),
-                        QStringLiteral("1280x1024x24"), QStringLiteral("-nolisten"),
-                        QStringLiteral("tcp"), QStringLiteral("-noreset")});
+        m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten",
+                                "tcp", "-noreset"});
         while (!m_server.canReadLine() && m_server.waitForReadyRead(startTimeoutMs)) {
         }
         const QByteArray number = m_server.readLine().trimmed();
         if (!number.isEmpty())
-            m_name = QLatin1Char(':') + QString::fromLatin1(number);
+            m_name = ':' + QString::fromLatin1(number);
     }
 
     QProcess m_server;
@@ -67,8 +64,8 @@ QString pluginPath(const QString &program)
 {
     QDir folder = QFileInfo(program).absoluteDir();
     do {
-        const QString path = folder.absoluteFilePath(QStringLiteral("tests/plugins"));
-        if (QFileInfo::exists(path + QStringLiteral("/generic/libpressdeskdriver.so")))
+        const QString path = folder.absoluteFilePath("tests/plugins");
+        if (QFileInfo::exists(path + "/generic/libpressdeskdriver.so"))
             return path;
     } while (folder.cdUp());
     return QString();
@@ -97,14 +94,14 @@ QRect toRect(const QJsonArray &array)
 
 QJsonObject withTarget(const PanelWidget &widget)
 {
-    return {{QStringLiteral("target"), widget.target()}};
+    return {{"target", widget.target()}};
 }
 
 QJsonObject rowRequest(const PanelWidget &table, const PanelEntry &row, int column)
 {
     QJsonObject message = withTarget(table);
-    message.insert(QStringLiteral("row"), row.value());
-    message.insert(QStringLiteral("column"), column);
+    message.insert("row", row.value());
+    message.insert("column", column);
     return message;
 }
 
@@ -116,7 +113,7 @@ PanelWidget::PanelWidget(const QString &key, const QString &value)
 }
 
 PanelWidget::PanelWidget(const QString &accessibleName)
-    : PanelWidget(QStringLiteral("name"), accessibleName)
+    : PanelWidget("name", accessibleName)
 {
 }
 
@@ -127,17 +124,17 @@ PanelWidget::PanelWidget(const char *accessibleName)
 
 PanelWidget PanelWidget::button(const QString &text)
 {
-    return {QStringLiteral("text"), text};
+    return {"text", text};
 }
 
 PanelWidget PanelWidget::standardButton(const QString &name)
 {
-    return {QStringLiteral("standardButton"), name};
+    return {"standardButton", name};
 }
 
 PanelWidget PanelWidget::ofClass(const QString &className)
 {
-    return {QStringLiteral("class"), className};
+    return {"class", className};
 }
 
 PanelEntry::PanelEntry(int index)
@@ -158,14 +155,14 @@ PanelEntry::PanelEntry(const char *text)
 PanelDriver::PanelDriver(const QString &program)
     : m_program(program)
     , m_environment(QProcessEnvironment::systemEnvironment())
-    , m_directory(QStringLiteral("/tmp/panel-XXXXXX"))
+    , m_directory("/tmp/panel-XXXXXX")
 {
-    m_environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
-    m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-    m_environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_directory.path());
+    m_environment.remove("WAYLAND_DISPLAY");
+    m_environment.insert("QT_QPA_PLATFORM", "xcb");
+    m_environment.insert("XDG_RUNTIME_DIR", m_directory.path());
     // Some builds of Qt send warnings to the journal unless a terminal is there.
-    m_environment.insert(QStringLiteral("QT_FORCE_STDERR_LOGGING"), QStringLiteral("1"));
-    setLanguage(QStringLiteral("en_US"));
+    m_environment.insert("QT_FORCE_STDERR_LOGGING", "1");
+    setLanguage("en_US");
 }
 
 PanelDriver::~PanelDriver()
@@ -194,7 +191,7 @@ void PanelDriver::setLanguage(const QString &locale)
 {
     for (const char *name : {"LANGUAGE", "LC_ALL", "LC_MESSAGES"})
         m_environment.remove(QLatin1String(name));
-    m_environment.insert(QStringLiteral("LANG"), locale + QStringLiteral(".UTF-8"));
+    m_environment.insert("LANG", locale + ".UTF-8");
 }
 
 void PanelDriver::setLauncher(const QStringList &command)
@@ -205,26 +202,26 @@ void PanelDriver::setLauncher(const QStringList &command)
 bool PanelDriver::start(const QStringList &arguments)
 {
     if (isRunning())
-        return fail(QStringLiteral("the panel is running already"));
+        return fail("the panel is running already");
     const QString plugins = pluginPath(m_program);
     if (plugins.isEmpty())
-        return fail(QStringLiteral("no plugin for the panel above %1").arg(m_program));
+        return fail(QString("no plugin for the panel above %1").arg(m_program));
     const VirtualDisplay &display = VirtualDisplay::instance();
     if (display.name().isEmpty())
-        return fail(QStringLiteral("Xvfb did not start: ") + display.error());
+        return fail("Xvfb did not start: " + display.error());
 
     m_socket.abort();
-    const QString socketPath = m_directory.filePath(QStringLiteral("driver"));
+    const QString socketPath = m_directory.filePath("driver");
     QFile::remove(socketPath);
     QProcessEnvironment environment = m_environment;
-    environment.insert(QStringLiteral("DISPLAY"), display.name());
-    environment.insert(QStringLiteral("QT_PLUGIN_PATH"), plugins);
-    environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("pressdeskdriver"));
-    environment.insert(QStringLiteral("PRESSDESK_DRIVER_SOCKET"), socketPath);
+    environment.insert("DISPLAY", display.name());
+    environment.insert("QT_PLUGIN_PATH", plugins);
+    environment.insert("QT_QPA_GENERIC_PLUGINS", "pressdeskdriver");
+    environment.insert("PRESSDESK_DRIVER_SOCKET", socketPath);
     m_panel.setProcessEnvironment(environment);
     // Files, so that a panel that says much never waits for us to read it.
-    m_panel.setStandardOutputFile(m_directory.filePath(QStringLiteral("stdout")));
-    m_panel.setStandardErrorFile(m_directory.filePath(QStringLiteral("stderr")));
+    m_panel.setStandardOutputFile(m_directory.filePath("stdout"));
+    m_panel.setStandardErrorFile(m_directory.filePath("stderr"));
     QStringList command = m_launcher + QStringList{m_program} + arguments;
     const QString program = command.takeFirst();
     m_panel.start(program, command);
@@ -232,19 +229,19 @@ bool PanelDriver::start(const QStringList &arguments)
            waitFor(
                [this] {
                    for (const QJsonObject &window : windows())
-                       if (window.value(QLatin1String("visible")).toBool())
+                       if (window.value("visible").toBool())
                            return true;
                    return false;
                },
-               QStringLiteral("the first window"), startTimeoutMs) &&
+               "the first window", startTimeoutMs) &&
            sync();
 }
 
 bool PanelDriver::connectToPanel()
 {
     if (!m_panel.waitForStarted(startTimeoutMs))
-        return fail(QStringLiteral("%1: %2").arg(m_program, m_panel.errorString()));
-    const QString socketPath = m_directory.filePath(QStringLiteral("driver"));
+        return fail(QString("%1: %2").arg(m_program, m_panel.errorString()));
+    const QString socketPath = m_directory.filePath("driver");
     QElapsedTimer clock;
     clock.start();
     while (clock.elapsed() < startTimeoutMs) {
@@ -252,9 +249,9 @@ bool PanelDriver::connectToPanel()
         if (m_socket.waitForConnected(pollMs))
             return true;
         if (m_panel.waitForFinished(pollMs) || !isRunning())
-            return fail(QStringLiteral("the panel ended at once"));
+            return fail("the panel ended at once");
     }
-    return fail(QStringLiteral("the panel does not load the plugin: ") + m_socket.errorString());
+    return fail("the panel does not load the plugin: " + m_socket.errorString());
 }
 
 bool PanelDriver::isRunning() const
@@ -266,7 +263,7 @@ bool PanelDriver::waitForEnd(int timeoutMs)
 {
     if (!isRunning() || m_panel.waitForFinished(timeoutMs))
         return true;
-    return fail(QStringLiteral("the panel did not end"));
+    return fail("the panel did not end");
 }
 
 int PanelDriver::exitStatus() const
@@ -276,7 +273,7 @@ int PanelDriver::exitStatus() const
 
 QString PanelDriver::standardError() const
 {
-    QFile file(m_directory.filePath(QStringLiteral("stderr")));
+    QFile file(m_directory.filePath("stderr"));
     if (!file.open(QIODevice::ReadOnly))
         return QString();
     // Not the panel's doing, and without a line end of its own.
@@ -288,171 +285,147 @@ QString PanelDriver::standardError() const
 
 bool PanelDriver::click(const PanelWidget &widget)
 {
-    return act(QStringLiteral("click"), withTarget(widget));
-}
-
-bool PanelDriver::doubleClick(const PanelWidget &widget)
-{
-    QJsonObject message = withTarget(widget);
-    message.insert(QStringLiteral("double"), true);
-    return act(QStringLiteral("click"), message);
+    return act("click", withTarget(widget));
 }
 
 bool PanelDriver::clickTab(const PanelEntry &tab)
 {
-    return act(QStringLiteral("click"), {{QStringLiteral("tab"), tab.value()}});
+    return act("click", {{"tab", tab.value()}});
 }
 
 bool PanelDriver::clickTab(const PanelWidget &bar, const PanelEntry &tab)
 {
     QJsonObject message = withTarget(bar);
-    message.insert(QStringLiteral("tab"), tab.value());
-    return act(QStringLiteral("click"), message);
+    message.insert("tab", tab.value());
+    return act("click", message);
 }
 
 bool PanelDriver::clickRow(const PanelWidget &table, const PanelEntry &row, int column)
 {
-    return act(QStringLiteral("click"), rowRequest(table, row, column));
-}
-
-bool PanelDriver::doubleClickRow(const PanelWidget &table, const PanelEntry &row, int column)
-{
-    QJsonObject message = rowRequest(table, row, column);
-    message.insert(QStringLiteral("double"), true);
-    return act(QStringLiteral("click"), message);
+    return act("click", rowRequest(table, row, column));
 }
 
 bool PanelDriver::clickGroupButton(const PanelWidget &group, const PanelEntry &button)
 {
     QJsonObject message = withTarget(group);
-    message.insert(QStringLiteral("button"), button.value());
-    return act(QStringLiteral("click"), message);
+    message.insert("button", button.value());
+    return act("click", message);
 }
 
 bool PanelDriver::choose(const PanelWidget &comboBox, const PanelEntry &item)
 {
     QJsonObject message = withTarget(comboBox);
-    message.insert(QStringLiteral("item"), item.value());
-    return act(QStringLiteral("choose"), message);
+    message.insert("item", item.value());
+    return act("choose", message);
 }
 
 bool PanelDriver::type(const QString &text)
 {
-    return act(QStringLiteral("type"), {{QStringLiteral("text"), text}});
+    return act("type", {{"text", text}});
 }
 
 bool PanelDriver::enter(const PanelWidget &field, const QString &text)
 {
-    return click(field) && press(QStringLiteral("Ctrl+A")) &&
-           (text.isEmpty() ? press(QStringLiteral("Backspace")) : type(text));
+    return click(field) && press("Ctrl+A") && (text.isEmpty() ? press("Backspace") : type(text));
 }
 
 bool PanelDriver::press(const QString &keys)
 {
-    return act(QStringLiteral("key"), {{QStringLiteral("keys"), keys}});
+    return act("key", {{"keys", keys}});
 }
 
 bool PanelDriver::activateWindow(const PanelWidget &widget)
 {
-    return act(QStringLiteral("activate"), withTarget(widget));
+    return act("activate", withTarget(widget));
 }
 
 bool PanelDriver::closeWindow(const PanelWidget &widget)
 {
-    return act(QStringLiteral("close"), withTarget(widget));
+    return act("close", withTarget(widget));
 }
 
 bool PanelDriver::sync()
 {
     QJsonObject reply;
-    return request({{QStringLiteral("command"), QStringLiteral("sync")}}, &reply, replyTimeoutMs);
+    return request({{"command", "sync"}}, &reply, replyTimeoutMs);
 }
 
 bool PanelDriver::isShown(const PanelWidget &widget)
 {
-    return state(widget).value(QLatin1String("visible")).toBool();
+    return state(widget).value("visible").toBool();
 }
 
 bool PanelDriver::isEnabled(const PanelWidget &widget)
 {
     const QJsonObject known = state(widget);
-    return known.value(QLatin1String("visible")).toBool() &&
-           known.value(QLatin1String("enabled")).toBool();
+    return known.value("visible").toBool() && known.value("enabled").toBool();
 }
 
 QString PanelDriver::text(const PanelWidget &widget)
 {
-    return state(widget).value(QLatin1String("text")).toString();
+    return state(widget).value("text").toString();
 }
 
 QString PanelDriver::currentText(const PanelWidget &widget)
 {
-    return state(widget).value(QLatin1String("currentText")).toString();
+    return state(widget).value("currentText").toString();
 }
 
 bool PanelDriver::isChecked(const PanelWidget &widget)
 {
-    return state(widget).value(QLatin1String("checked")).toBool();
+    return state(widget).value("checked").toBool();
 }
 
 QString PanelDriver::toolTip(const PanelWidget &widget)
 {
-    return state(widget).value(QLatin1String("toolTip")).toString();
+    return state(widget).value("toolTip").toString();
 }
 
 QStringList PanelDriver::items(const PanelWidget &comboBox)
 {
     QStringList texts;
-    const QJsonArray all = state(comboBox).value(QLatin1String("items")).toArray();
+    const QJsonArray all = state(comboBox).value("items").toArray();
     for (const QJsonValue &item : all)
-        texts.append(item[QLatin1String("text")].toString());
+        texts.append(item["text"].toString());
     return texts;
 }
 
 QStringList PanelDriver::enabledItems(const PanelWidget &comboBox)
 {
     QStringList texts;
-    const QJsonArray all = state(comboBox).value(QLatin1String("items")).toArray();
+    const QJsonArray all = state(comboBox).value("items").toArray();
     for (const QJsonValue &item : all)
-        if (item[QLatin1String("enabled")].toBool())
-            texts.append(item[QLatin1String("text")].toString());
+        if (item["enabled"].toBool())
+            texts.append(item["text"].toString());
     return texts;
 }
 
 QJsonObject PanelDriver::state(const PanelWidget &widget)
 {
-    return query(QStringLiteral("state"), withTarget(widget))
-        .value(QLatin1String("state"))
-        .toObject();
-}
-
-QJsonObject PanelDriver::focus()
-{
-    return query(QStringLiteral("focus")).value(QLatin1String("state")).toObject();
+    return query("state", withTarget(widget)).value("state").toObject();
 }
 
 PanelTable PanelDriver::table(const PanelWidget &table)
 {
-    const QJsonObject reply = query(QStringLiteral("table"), withTarget(table));
+    const QJsonObject reply = query("table", withTarget(table));
     PanelTable contents;
-    contents.headers = toStringList(reply.value(QLatin1String("headers")).toArray());
-    const QJsonArray rows = reply.value(QLatin1String("rows")).toArray();
+    contents.headers = toStringList(reply.value("headers").toArray());
+    const QJsonArray rows = reply.value("rows").toArray();
     for (const QJsonValue &row : rows)
         contents.rows.append(toStringList(row.toArray()));
-    contents.currentRow = reply.value(QLatin1String("currentRow")).toInt(-1);
-    contents.selectedRows = toIntVector(reply.value(QLatin1String("selectedRows")).toArray());
-    contents.columnWidths = toIntVector(reply.value(QLatin1String("columnWidths")).toArray());
+    contents.currentRow = reply.value("currentRow").toInt(-1);
+    contents.selectedRows = toIntVector(reply.value("selectedRows").toArray());
+    contents.columnWidths = toIntVector(reply.value("columnWidths").toArray());
     return contents;
 }
 
 QVector<PanelTab> PanelDriver::tabs()
 {
     QVector<PanelTab> result;
-    const QJsonArray all = query(QStringLiteral("tabs")).value(QLatin1String("tabs")).toArray();
+    const QJsonArray all = query("tabs").value("tabs").toArray();
     for (const QJsonValue &tab : all)
-        result.append(
-            {tab[QLatin1String("text")].toString(), tab[QLatin1String("enabled")].toBool(),
-             tab[QLatin1String("current")].toBool(), toRect(tab[QLatin1String("rect")].toArray())});
+        result.append({tab["text"].toString(), tab["enabled"].toBool(), tab["current"].toBool(),
+                       toRect(tab["rect"].toArray())});
     return result;
 }
 
@@ -468,25 +441,20 @@ QStringList PanelDriver::shownTabs()
 
 PanelMessageBox PanelDriver::messageBox()
 {
-    const QJsonObject box =
-        query(QStringLiteral("messageBox")).value(QLatin1String("messageBox")).toObject();
-    return {!box.isEmpty(), box.value(QLatin1String("title")).toString(),
-            box.value(QLatin1String("text")).toString(),
-            toStringList(box.value(QLatin1String("buttons")).toArray())};
+    const QJsonObject box = query("messageBox").value("messageBox").toObject();
+    return {!box.isEmpty(), box.value("title").toString(), box.value("text").toString(),
+            toStringList(box.value("buttons").toArray())};
 }
 
 QString PanelDriver::windowTitle()
 {
-    return state(PanelWidget::ofClass(QStringLiteral("BixDialog")))
-        .value(QLatin1String("windowTitle"))
-        .toString();
+    return state(PanelWidget::ofClass("BixDialog")).value("windowTitle").toString();
 }
 
 QVector<QJsonObject> PanelDriver::windows()
 {
     QVector<QJsonObject> result;
-    const QJsonArray all =
-        query(QStringLiteral("windows")).value(QLatin1String("windows")).toArray();
+    const QJsonArray all = query("windows").value("windows").toArray();
     for (const QJsonValue &window : all)
         result.append(window.toObject());
     return result;
@@ -495,22 +463,13 @@ QVector<QJsonObject> PanelDriver::windows()
 bool PanelDriver::grab(const PanelWidget &widget, const QString &path)
 {
     QJsonObject message = withTarget(widget);
-    message.insert(QStringLiteral("path"), QFileInfo(path).absoluteFilePath());
-    return !query(QStringLiteral("grab"), message).isEmpty();
-}
-
-bool PanelDriver::grabFrontWindow(const QString &path)
-{
-    return !query(QStringLiteral("grab"),
-                  {{QStringLiteral("path"), QFileInfo(path).absoluteFilePath()}})
-                .isEmpty();
+    message.insert("path", QFileInfo(path).absoluteFilePath());
+    return !query("grab", message).isEmpty();
 }
 
 bool PanelDriver::grabScreen(const QString &path)
 {
-    return !query(QStringLiteral("grab"),
-                  {{QStringLiteral("path"), QFileInfo(path).absoluteFilePath()},
-                   {QStringLiteral("screen"), true}})
+    return !query("grab", {{"path", QFileInfo(path).absoluteFilePath()}, {"screen", true}})
                 .isEmpty();
 }
 
@@ -521,9 +480,9 @@ bool PanelDriver::waitFor(const std::function<bool()> &condition, const QString 
     clock.start();
     while (!condition()) {
         if (!isRunning() || m_panel.waitForFinished(0))
-            return fail(QStringLiteral("the panel ended before ") + what);
+            return fail("the panel ended before " + what);
         if (clock.elapsed() > timeoutMs)
-            return fail(QStringLiteral("timed out waiting for ") + what);
+            return fail("timed out waiting for " + what);
         QThread::msleep(pollMs);
     }
     return true;
@@ -534,17 +493,17 @@ bool PanelDriver::fail(const QString &message)
     m_error = message;
     const QString said = standardError().trimmed();
     if (!said.isEmpty())
-        m_error += QStringLiteral("\nThe panel's error output:\n") + said;
+        m_error += "\nThe panel's error output:\n" + said;
     return false;
 }
 
 bool PanelDriver::request(QJsonObject message, QJsonObject *reply, int timeoutMs)
 {
-    const QString id = QStringLiteral("id");
+    const QString id = "id";
     message.insert(id, ++m_lastId);
     const QByteArray line = QJsonDocument(message).toJson(QJsonDocument::Compact);
     if (m_socket.state() != QLocalSocket::ConnectedState)
-        return fail(QStringLiteral("no panel to send to: ") + QString::fromUtf8(line));
+        return fail("no panel to send to: " + QString::fromUtf8(line));
     m_socket.write(line + '\n');
     m_socket.flush();
     QElapsedTimer clock;
@@ -554,25 +513,25 @@ bool PanelDriver::request(QJsonObject message, QJsonObject *reply, int timeoutMs
         while (!m_socket.canReadLine()) {
             const int left = timeoutMs - static_cast<int>(clock.elapsed());
             if (left <= 0 || !m_socket.waitForReadyRead(left))
-                return fail(QStringLiteral("no answer to %1: %2")
+                return fail(QString("no answer to %1: %2")
                                 .arg(QString::fromUtf8(line), m_socket.errorString()));
         }
         *reply = QJsonDocument::fromJson(m_socket.readLine()).object();
     } while (reply->value(id) != message.value(id));
-    const QString error = reply->value(QLatin1String("error")).toString();
-    return error.isEmpty() || fail(QStringLiteral("%1: %2").arg(QString::fromUtf8(line), error));
+    const QString error = reply->value("error").toString();
+    return error.isEmpty() || fail(QString("%1: %2").arg(QString::fromUtf8(line), error));
 }
 
 bool PanelDriver::act(const QString &command, QJsonObject message)
 {
-    message.insert(QStringLiteral("command"), command);
+    message.insert("command", command);
     QJsonObject reply;
     return request(message, &reply, replyTimeoutMs) && (sync() || endedWell());
 }
 
 QJsonObject PanelDriver::query(const QString &command, QJsonObject message)
 {
-    message.insert(QStringLiteral("command"), command);
+    message.insert("command", command);
     QJsonObject reply;
     return request(message, &reply, replyTimeoutMs) ? reply : QJsonObject();
 }
@@ -584,6 +543,5 @@ bool PanelDriver::endedWell()
         return false;
     if (!waitForEnd())
         return false;
-    return exitStatus() == 0 ||
-           fail(QStringLiteral("the panel ended with status %1").arg(exitStatus()));
+    return exitStatus() == 0 || fail(QString("the panel ended with status %1").arg(exitStatus()));
 }

@@ -125,13 +125,11 @@ public:
 
     // Actions.
     bool click(const PanelWidget &widget);
-    bool doubleClick(const PanelWidget &widget);
     /// Clicks a tab of the given tab bar, or of the first shown one.
     bool clickTab(const PanelEntry &tab);
     bool clickTab(const PanelWidget &bar, const PanelEntry &tab);
     /// Clicks a cell of a table; a row is found by its text in that column.
     bool clickRow(const PanelWidget &table, const PanelEntry &row, int column = 0);
-    bool doubleClickRow(const PanelWidget &table, const PanelEntry &row, int column = 0);
     /// Clicks a picture button of a button group.
     bool clickGroupButton(const PanelWidget &group, const PanelEntry &button);
     /// Opens the combo box and clicks an item. A disabled item fails.
@@ -171,8 +169,6 @@ public:
     /// "maximum", "currentText", "currentIndex", "items" (text, enabled), "buttons" (name, checked,
     /// enabled).
     QJsonObject state(const PanelWidget &widget);
-    /// The state of the widget with the keyboard focus.
-    QJsonObject focus();
     PanelTable table(const PanelWidget &table);
     QVector<PanelTab> tabs();
     /// Titles of the tabs that take room in the bar.
@@ -184,9 +180,8 @@ public:
     /// "rect" on the screen.
     QVector<QJsonObject> windows();
 
-    /// Saves a picture as PNG: of a widget, of the front window, of the whole screen.
+    /// Saves a picture as PNG: of a widget, of the whole screen.
     bool grab(const PanelWidget &widget, const QString &path);
-    bool grabFrontWindow(const QString &path);
     bool grabScreen(const QString &path);
 
     /// Asks again and again until the condition holds.

@@ -9,44 +9,42 @@ constexpr char printers[] = "tblPrinters";
 
 bool isGroup(const QString &widget)
 {
-    return widget.startsWith(QLatin1String("but"));
+    return widget.startsWith("but");
 }
 
 } // namespace
 
 const QStringList noMessage;
-const QStringList applied{QStringLiteral("Success"), QStringLiteral("Settings applied.")};
-const QStringList nothingSelected{QString(), QStringLiteral("Select a printer.")};
-const QStringList notPublished{
-    QStringLiteral("Error"), QStringLiteral("Error: Printer does not exist or lpoptions failed.")};
+const QStringList applied{"Success", "Settings applied."};
+const QStringList nothingSelected{QString(), "Select a printer."};
+const QStringList notPublished{"Error", "Error: Printer does not exist or lpoptions failed."};
 const QStringList printersChanged{
-    QStringLiteral("Error"),
-    QStringLiteral("It looks like your installed printers have changed.\nReloading list now.")};
+    "Error", "It looks like your installed printers have changed.\nReloading list now."};
 
-const QStringList onlyPrinterPage{QStringLiteral("Printer")};
+const QStringList onlyPrinterPage{"Printer"};
 
 // Files
 
 QDir userFolder()
 {
-    return QDir(QStringLiteral("/usr/share/brixola/tester"));
+    return QDir("/usr/share/brixola/tester");
 }
 
 QString cfgFile(const QString &printer)
 {
-    return userFolder().filePath(printer + QStringLiteral(".cfg"));
+    return userFolder().filePath(printer + ".cfg");
 }
 
 QString lpoptionsFile()
 {
-    return QDir::home().filePath(QStringLiteral(".cups/lpoptions"));
+    return QDir::home().filePath(".cups/lpoptions");
 }
 
 bool makeUserFolder()
 {
     QFile::remove(lpoptionsFile());
-    return userFolder().removeRecursively() && userFolder().mkpath(QStringLiteral(".")) &&
-           writeFile(userFolder().filePath(QStringLiteral("Settings")), "Telemetry=False\n");
+    return userFolder().removeRecursively() && userFolder().mkpath(".") &&
+           writeFile(userFolder().filePath("Settings"), "Telemetry=False\n");
 }
 
 QByteArray contents(const QString &path)
@@ -63,15 +61,15 @@ bool writeFile(const QString &path, const QByteArray &text)
 
 QStringList savedLines(const QString &printer)
 {
-    return QString::fromUtf8(contents(cfgFile(printer))).split(QLatin1Char('\n'));
+    return QString::fromUtf8(contents(cfgFile(printer))).split('\n');
 }
 
 QStringList publishedOptions(const QString &printer)
 {
     QProcess lpoptions;
-    lpoptions.start(QStringLiteral("lpoptions"), {QStringLiteral("-p"), printer});
+    lpoptions.start("lpoptions", {"-p", printer});
     lpoptions.waitForFinished();
-    return QString::fromUtf8(lpoptions.readAll()).simplified().split(QLatin1Char(' '));
+    return QString::fromUtf8(lpoptions.readAll()).simplified().split(' ');
 }
 
 QStringList missing(QStringList wanted, const QStringList &lines)
@@ -108,7 +106,7 @@ bool Panel::select(const QString &printer)
 
 bool Panel::answer()
 {
-    return waitFor([this] { return messageBox().shown; }, QStringLiteral("a message")) && ok();
+    return waitFor([this] { return messageBox().shown; }, "a message") && ok();
 }
 
 PanelWidget Panel::standardButton(const char *name)
@@ -135,7 +133,7 @@ bool Panel::hasSelection()
 {
     const PanelTable table = this->table(printers);
     return table.currentRow != -1 || !table.selectedRows.isEmpty() ||
-           windowTitle() != QLatin1String("Brixola Press Desk");
+           windowTitle() != "Brixola Press Desk";
 }
 
 bool Panel::set(const Value &value)
@@ -148,9 +146,9 @@ bool Panel::canSet(const Value &value)
 {
     if (!isGroup(value.first))
         return enabledItems(value.first).contains(value.second);
-    const QJsonArray buttons = state(value.first).value(QLatin1String("buttons")).toArray();
+    const QJsonArray buttons = state(value.first).value("buttons").toArray();
     for (const QJsonValue &button : buttons)
-        if (button[QLatin1String("name")] == value.second)
-            return button[QLatin1String("enabled")].toBool();
+        if (button["name"] == value.second)
+            return button["enabled"].toBool();
     return false;
 }

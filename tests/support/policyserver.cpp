@@ -86,7 +86,7 @@ PolicyServer::PolicyServer()
 
 QString PolicyServer::url() const
 {
-    return QStringLiteral("https://127.0.0.1:") + port();
+    return "https://127.0.0.1:" + port();
 }
 
 void PolicyServer::answerWith(const QList<QByteArray> &pieces, int pauseMs)

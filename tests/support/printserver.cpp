@@ -26,7 +26,7 @@ void restoreVariable(const char *name, const QByteArray &value)
 
 // A short path, since the scheduler's socket lies in it and its address holds 107 bytes.
 PrintServer::PrintServer()
-    : m_directory(QStringLiteral("/tmp/cups-XXXXXX"))
+    : m_directory("/tmp/cups-XXXXXX")
     , m_outerServer(qgetenv(serverVariable))
     , m_outerRoot(qgetenv(rootVariable))
 {
@@ -43,18 +43,17 @@ PrintServer::~PrintServer()
 bool PrintServer::start()
 {
     QByteArray output;
-    if (!run(QStringLiteral("start"), {}, &output))
+    if (!run("start", {}, &output))
         return false;
     m_running = true;
-    static const QRegularExpression assignment(QStringLiteral("\\b(CUPS_\\w+)=(\\S+)"));
+    static const QRegularExpression assignment("\\b(CUPS_\\w+)=(\\S+)");
     auto matches = assignment.globalMatch(QString::fromLocal8Bit(output));
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
         qputenv(match.captured(1).toLatin1().constData(), match.captured(2).toLocal8Bit());
     }
     if (!qgetenv(serverVariable).startsWith(directory().toLocal8Bit())) {
-        m_error = QStringLiteral("the print server did not say where it is: ") +
-                  QString::fromLocal8Bit(output);
+        m_error = "the print server did not say where it is: " + QString::fromLocal8Bit(output);
         return false;
     }
     return true;
@@ -62,7 +61,7 @@ bool PrintServer::start()
 
 bool PrintServer::stop()
 {
-    if (!run(QStringLiteral("stop"), {}))
+    if (!run("stop", {}))
         return false;
     m_running = false;
     return true;
@@ -70,12 +69,12 @@ bool PrintServer::stop()
 
 bool PrintServer::addSampleQueues()
 {
-    return run(QStringLiteral("queues"), {});
+    return run("queues", {});
 }
 
 bool PrintServer::addQueue(const QString &name, const QString &ppd, const QString &deviceUri)
 {
-    return run(QStringLiteral("add"), {name, sourceFile(ppd), deviceUri});
+    return run("add", {name, sourceFile(ppd), deviceUri});
 }
 
 bool PrintServer::addQueueByRequest(const QByteArray &name, const QString &ppd)
@@ -99,14 +98,14 @@ bool PrintServer::addQueueByRequest(const QByteArray &name, const QString &ppd)
                                 sourceFile(ppd).toLocal8Bit().constData()));
     if (cupsLastError() <= IPP_STATUS_OK_CONFLICTING)
         return true;
-    m_error = QStringLiteral("queue %1: %2")
+    m_error = QString("queue %1: %2")
                   .arg(QString::fromUtf8(name), QString::fromUtf8(cupsLastErrorString()));
     return false;
 }
 
 bool PrintServer::removeQueue(const QString &name)
 {
-    return run(QStringLiteral("remove"), {name});
+    return run("remove", {name});
 }
 
 QString PrintServer::sourceFile(const QString &relativePath)
@@ -116,7 +115,7 @@ QString PrintServer::sourceFile(const QString &relativePath)
 
 bool PrintServer::run(const QString &command, const QStringList &arguments, QByteArray *output)
 {
-    const QString script = sourceFile(QStringLiteral("demo/printserver.sh"));
+    const QString script = sourceFile("demo/printserver.sh");
     QProcess process;
     process.start(script, QStringList{command, directory()} + arguments);
     const bool ended = process.waitForFinished(commandTimeoutMs);
@@ -124,7 +123,7 @@ bool PrintServer::run(const QString &command, const QStringList &arguments, QByt
         *output = process.readAllStandardOutput();
     if (ended && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
         return true;
-    m_error = QStringLiteral("%1 %2: %3 %4")
+    m_error = QString("%1 %2: %3 %4")
                   .arg(script, command, ended ? QString() : process.errorString(),
                        QString::fromLocal8Bit(process.readAllStandardError()));
     return false;

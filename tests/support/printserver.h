@@ -30,7 +30,7 @@ public:
     /// Adds or replaces a queue.
     /// \param ppd path of its PPD file; a relative one starts at the checkout
     bool addQueue(const QString &name, const QString &ppd,
-                  const QString &deviceUri = QStringLiteral("file:///dev/null"));
+                  const QString &deviceUri = "file:///dev/null");
     /// Adds a queue as other programs may, by a request of our own (CUPS-Add-Modify-Printer), since
     /// lpadmin refuses some of the names that the scheduler takes.
     /// \param name as its bytes go to the scheduler, usually UTF-8

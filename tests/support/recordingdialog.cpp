@@ -11,7 +11,7 @@
 
 RecordingDialog::RecordingDialog()
 {
-    currentCfgPath = directory.filePath(QStringLiteral("queue.cfg"));
+    currentCfgPath = directory.filePath("queue.cfg");
 }
 
 RecordingDialog::~RecordingDialog()
@@ -42,5 +42,5 @@ QStringList RecordingDialog::takeCalls()
 
 void RecordingDialog::note(const QString &slot)
 {
-    calls.append(remark ? slot + QLatin1Char(' ') + remark() : slot);
+    calls.append(remark ? slot + ' ' + remark() : slot);
 }

@@ -32,14 +32,14 @@ public:
     /// If set, its answer follows each entry after a blank: what the caller has done by then.
     std::function<QString()> remark;
 
-    void recordInstalledValues() override { note(QStringLiteral("recordInstalledValues")); }
-    void showApplied() override { note(QStringLiteral("showApplied")); }
+    void recordInstalledValues() override { note("recordInstalledValues"); }
+    void showApplied() override { note("showApplied"); }
 
 public slots:
-    void writeTolpoptions() override { note(QStringLiteral("writeTolpoptions")); }
-    void setConstraints() override { note(QStringLiteral("setConstraints")); }
-    void toggleColorMode() override { note(QStringLiteral("toggleColorMode")); }
-    void profileChanged() override { note(QStringLiteral("profileChanged")); }
+    void writeTolpoptions() override { note("writeTolpoptions"); }
+    void setConstraints() override { note("setConstraints"); }
+    void toggleColorMode() override { note("toggleColorMode"); }
+    void profileChanged() override { note("profileChanged"); }
 
 private:
     void note(const QString &slot);

@@ -11,10 +11,10 @@ namespace {
 struct Name
 {
     explicit Name(const QString &word)
-        : key(word.section(QLatin1Char('/'), 0, 0))
-        , text(word.section(QLatin1Char('/'), 1).replace(QLatin1Char('_'), QLatin1Char(' ')))
+        : key(word.section('/', 0, 0))
+        , text(word.section('/', 1).replace('_', ' '))
     {
-        if (!word.contains(QLatin1Char('/')))
+        if (!word.contains('/'))
             text = key;
     }
 
@@ -24,14 +24,13 @@ struct Name
 
 QStringList words(const QString &line)
 {
-    return line.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return line.simplified().split(' ', Qt::SkipEmptyParts);
 }
 
 OptionChoice *findValue(const OptionStore &store, const QString &value)
 {
-    const bOption *option = store.find(value.section(QLatin1Char('='), 0, 0));
-    OptionChoice *choice =
-        option ? option->findChoice(value.section(QLatin1Char('='), 1)) : nullptr;
+    const bOption *option = store.find(value.section('=', 0, 0));
+    OptionChoice *choice = option ? option->findChoice(value.section('=', 1)) : nullptr;
     if (!choice)
         qFatal("the store has no value %s", qPrintable(value));
     return choice;
@@ -42,12 +41,12 @@ void addOption(OptionStore &store, const QStringList &line)
     bool isNumber = false;
     const int priority = line.value(1).toInt(&isNumber);
     if (!isNumber)
-        qFatal("no option: %s", qPrintable(line.join(QLatin1Char(' '))));
+        qFatal("no option: %s", qPrintable(line.join(' ')));
     const Name name(line[0]);
     auto option = std::make_unique<bOption>(name.key, name.text);
     option->setPriority(priority);
     for (QString word : line.mid(2)) {
-        const bool isDefault = word.endsWith(QLatin1Char('*'));
+        const bool isDefault = word.endsWith('*');
         if (isDefault)
             word.chop(1);
         const Name choice(word);
@@ -73,12 +72,12 @@ void addRules(OptionStore &store, const QStringList &line)
 std::unique_ptr<OptionStore> makeStore(const QString &block)
 {
     auto store = std::make_unique<OptionStore>();
-    const QStringList lines = block.split(QLatin1Char('\n'));
+    const QStringList lines = block.split('\n');
     for (const QString &text : lines) {
         const QStringList line = words(text);
         if (line.isEmpty())
             continue;
-        if (line[0].contains(QLatin1Char('=')))
+        if (line[0].contains('='))
             addRules(*store, line);
         else
             addOption(*store, line);
@@ -103,9 +102,9 @@ QString blockedValues(const OptionStore &store)
         const QList<OptionChoice *> choices = option->choiceList();
         for (const OptionChoice *choice : choices) {
             if (choice->isBlocked())
-                values.append(option->key() + QLatin1Char('=') + choice->key());
+                values.append(option->key() + '=' + choice->key());
         }
     }
     values.sort();
-    return values.join(QLatin1Char(' '));
+    return values.join(' ');
 }

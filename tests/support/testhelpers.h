@@ -25,9 +25,9 @@ inline void addRows(std::initializer_list<const char *> columns, const char *tab
 {
     for (const char *column : columns)
         QTest::addColumn<QString>(column);
-    const QStringList lines = QString::fromUtf8(table).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList lines = QString::fromUtf8(table).split('\n', Qt::SkipEmptyParts);
     for (const QString &line : lines) {
-        const QStringList cells = line.split(QLatin1Char('|'));
+        const QStringList cells = line.split('|');
         QTestData &row = QTest::newRow(qPrintable(cells.value(0).trimmed()));
         for (int i = 1; i <= int(columns.size()); ++i)
             row << cells.value(i).trimmed();
