@@ -11,47 +11,16 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QLabel>
-#include <QLayout>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTextEdit>
 #include <QTimer>
-#include <QtTest>
-
-#include <functional>
 
 namespace {
 
 constexpr int scaleFactor = 2;
 
 const QString settingsFile = "/usr/share/brixola/tester/Settings";
-
-/// Opens the dialog, does something in it that should close it, and gives its result, or -1.
-template <class Dialog>
-int open(Dialog *dialog, const std::function<void()> &act)
-{
-    QTimer::singleShot(0, dialog, [&] {
-        act();
-        if (dialog->isVisible())
-            dialog->done(-1);
-    });
-    return dialog->exec();
-}
-
-QRadioButton *radioButton(const QDialog &dialog, const QString &beginning)
-{
-    const auto buttons = dialog.findChildren<QRadioButton *>();
-    for (QRadioButton *button : buttons) {
-        if (button->text().startsWith(beginning))
-            return button;
-    }
-    return nullptr;
-}
-
-void clickOk(const QDialog &dialog)
-{
-    dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
-}
 
 QString shownNotices()
 {
@@ -77,8 +46,7 @@ public:
     /// Class of the window that the user sees in front.
     QString front()
     {
-        const QVector<QJsonObject> all = windows();
-        for (const QJsonObject &window : all) {
+        for (const QJsonObject &window : windows()) {
             if (window.value("visible").toBool())
                 return window.value("class").toString();
         }
@@ -104,9 +72,7 @@ private slots:
     void init();
     void question_data();
     void question();
-    void unwritableSettingsAreSilent();
-    void pictureIsSharp();
-    void returnClosesAboutBox();
+    void aboutBox();
     void controlsHaveNames();
     void noticesCoverLinkedLibraries();
     void noticesHoldLicences();
@@ -125,90 +91,69 @@ void TestAbout::init()
 
 void TestAbout::question_data()
 {
-    QTest::addColumn<QString>("before"); // null if there is no file and no folder
-    QTest::addColumn<bool>("yes");       // what the dialog shows first
-    QTest::addColumn<QString>("action"); // an answer to choose before Ok; "leave" for none
-    QTest::addColumn<QString>("after");
-
-    const QString none, rubbish = QString::fromLatin1("\xff\xfe\0\r\xc3", 5);
-    addRow("no file, left", none, true, "leave", none);
-    addRow("no file, no", none, true, "No", "Telemetry=False\n");
-    addRow("yes, left", "Telemetry=True\n", true, "leave", "Telemetry=True\n");
-    addRow("no over yes reaches into the second line", "Telemetry=True\nFKP_enabled=OFF\n", true,
-           "No", "Telemetry=False\nKP_enabled=OFF\n");
-    addRow("yes over no keeps the second line", "Telemetry=False\nFKP_enabled=OFF\n", false, "Yes",
-           "Telemetry=True\n\nFKP_enabled=OFF\n");
-    addRow("yes over rubbish", rubbish + "Telemetry=True\n", true, "Yes", "Telemetry=True\nTrue\n");
-    addRow("empty file", "", false, "leave", "");
-    addRow("yes in a later line, without its end", "A=1\nTelemetry=True", true, "leave",
-           "A=1\nTelemetry=True");
-    addRow("the text anywhere counts", "Telemetry=False\nNoTelemetry=Truely\n", true, "leave",
-           "Telemetry=False\nNoTelemetry=Truely\n");
-    addRow("capitals count", "telemetry=true\nTelemetry=TRUE\n", false, "leave",
-           "telemetry=true\nTelemetry=TRUE\n");
+    // Of the settings file "-" means that it isn't there, "+" that a folder is in its place; "/"
+    // stands for a line's end. The answer is what the dialog shows first, then what is clicked, if
+    // it is not left.
+    addRows({"before", "answer", "after"}, R"(
+no file, left                               | -                                     | Yes     | -
+no file, no                                 | -                                     | Yes, No | Telemetry=False/
+yes, left                                   | Telemetry=True/                       | Yes     | Telemetry=True/
+no over yes reaches into the second line    | Telemetry=True/FKP_enabled=OFF/       | Yes, No | Telemetry=False/KP_enabled=OFF/
+yes over no keeps the second line           | Telemetry=False/FKP_enabled=OFF/      | No, Yes | Telemetry=True//FKP_enabled=OFF/
+yes over rubbish                            | ÿþÃTelemetry=True/                    | Yes, Yes | Telemetry=True/ue/
+empty file                                  |                                       | No      |
+yes in a later line, without its end        | A=1/Telemetry=True                    | Yes     | A=1/Telemetry=True
+the text anywhere counts                    | Telemetry=False/NoTelemetry=Truely/   | Yes     | Telemetry=False/NoTelemetry=Truely/
+capitals count                              | telemetry=true/Telemetry=TRUE/        | No      | telemetry=true/Telemetry=TRUE/
+a file that can't be opened                 | +                                     | Yes, No | +
+)");
 }
 
 void TestAbout::question()
 {
     QFETCH(QString, before);
-    QFETCH(bool, yes);
-    QFETCH(QString, action);
-    QFETCH(QString, after);
-    QVERIFY(before.isNull() || QDir().mkdir(userDirectory()));
-    QVERIFY(setFileText(settingsFile, before.toLatin1()));
+    QFETCH(QString, answer);
+    if (before == "+")
+        QVERIFY(QDir().mkpath(settingsFile));
+    else if (before != "-")
+        QVERIFY(QDir().mkdir(userDirectory()) &&
+                setFileText(settingsFile, before.replace('/', '\n').toLatin1()));
 
     TelemetryDialog dialog;
-    QCOMPARE(dialog.isTelemetryOn(), yes);
-    const bool left = action == "leave";
-    const int result = open(&dialog, [&] {
-        QVERIFY(radioButton(dialog, yes ? "Yes" : "No")->isChecked());
-        if (left) {
-            QTest::keyClick(&dialog, Qt::Key_Escape);
-        } else {
-            radioButton(dialog, action)->click();
-            clickOk(dialog);
-        }
+    const auto radioButton = [&dialog](const QString &beginning) {
+        const auto buttons = dialog.findChildren<QRadioButton *>();
+        return buttons[buttons[0]->text().startsWith(beginning) ? 0 : 1];
+    };
+    const QString chosen = answer.section(", ", 1);
+    QTimer::singleShot(0, &dialog, [&] {
+        if (!radioButton(answer.section(", ", 0, 0))->isChecked())
+            return dialog.done(-1);
+        if (chosen.isEmpty())
+            return QTest::keyClick(&dialog, Qt::Key_Escape);
+        radioButton(chosen)->click();
+        dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
     });
-    QCOMPARE(result, int(left ? QDialog::Rejected : QDialog::Accepted));
-    QCOMPARE(fileText(settingsFile), after.toLatin1());
-    QCOMPARE(QFile::exists(settingsFile), !after.isNull());
-}
+    QCOMPARE(dialog.exec(), int(chosen.isEmpty() ? QDialog::Rejected : QDialog::Accepted));
 
-void TestAbout::unwritableSettingsAreSilent()
-{
-    QVERIFY(QDir().mkpath(settingsFile)); // a folder where the file should be
-    TelemetryDialog dialog;
-    QVERIFY(dialog.isTelemetryOn());
-    QCOMPARE(open(&dialog, [&] { clickOk(dialog); }), int(QDialog::Accepted));
+    QString after = "-";
+    if (QFileInfo(settingsFile).isDir())
+        after = "+";
+    else if (QFile::exists(settingsFile))
+        after = QString::fromLatin1(fileText(settingsFile).replace('\n', '/'));
+    QTEST(after, "after");
 }
 
 // The about box and the notices
 
-void TestAbout::pictureIsSharp()
-{
-    const AboutDialog dialog;
-    const QPixmap pixmap = dialog.findChild<QLabel *>()->pixmap(Qt::ReturnByValue);
-    QCOMPARE(pixmap.devicePixelRatio(), qreal(scaleFactor));
-    QCOMPARE(pixmap.size(), QSize(480, 300) * scaleFactor);
-
-    // A picture blown up from the small one consists of squares of equal pixels. No text stands in
-    // this part.
-    const QImage image = pixmap.toImage().copy(0, 0, 960, 240);
-    int unequal = 0;
-    for (int y = 0; y < image.height(); y += 2) {
-        for (int x = 0; x < image.width(); x += 2)
-            unequal += image.pixel(x, y) != image.pixel(x + 1, y) ||
-                       image.pixel(x, y) != image.pixel(x, y + 1);
-    }
-    QVERIFY2(unequal > 1000, qPrintable(QString::number(unequal)));
-}
-
-void TestAbout::returnClosesAboutBox()
+void TestAbout::aboutBox()
 {
     AboutDialog dialog;
+    const QPixmap pixmap = dialog.findChild<QLabel *>()->pixmap(Qt::ReturnByValue);
+    QCOMPARE(pixmap.devicePixelRatio(), qreal(scaleFactor)); // as sharp as the screen
+    QCOMPARE(pixmap.size(), QSize(480, 300) * scaleFactor);
+
     dialog.show();
-    const auto buttons = dialog.findChildren<QPushButton *>();
-    for (const QPushButton *button : buttons) {
+    for (const QPushButton *button : dialog.findChildren<QPushButton *>()) {
         if (button->isVisible()) // the others would open another dialog
             QCOMPARE(button->isDefault(), button->text() == "Close");
     }
@@ -217,11 +162,10 @@ void TestAbout::returnClosesAboutBox()
 void TestAbout::controlsHaveNames()
 {
     AboutDialog about;
-    const auto widgets = about.findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
+    for (QWidget *widget : about.findChildren<QWidget *>()) {
         if (widget->focusPolicy() == Qt::NoFocus || widget->isWindow())
             continue;
-        QAccessibleInterface *control = QAccessible::queryAccessibleInterface(widget);
+        const QAccessibleInterface *control = QAccessible::queryAccessibleInterface(widget);
         QVERIFY2(
             control && !control->text(QAccessible::Name).isEmpty(),
             qPrintable(widget->window()->windowTitle() + ' ' + widget->metaObject()->className()));
@@ -230,39 +174,33 @@ void TestAbout::controlsHaveNames()
 
 void TestAbout::noticesCoverLinkedLibraries()
 {
-    // File names without their endings, and the heading of their notice.
-    const QPair<QString, QString> notices[] = {
-        {"libQt5\\w+", "Qt 5"},
-        {"libcups", "CUPS (libcups)"},
-        {"lib(crypto|ssl)", "OpenSSL (libcrypto)"},
-        {"lib(c|m|dl|pthread)|ld-linux.*", "GNU C Library"},
-        {"lib(stdc\\+\\+|gcc_s)", "libstdc++ and libgcc"},
-    };
     QProcess objdump;
     objdump.start("objdump", {"-p", PRESSDESK_PROGRAM});
     QVERIFY2(objdump.waitForFinished() && objdump.exitCode() == 0,
              qPrintable(objdump.errorString()));
-    QStringList libraries;
-    const QStringList lines = QString::fromUtf8(objdump.readAll()).split('\n');
-    for (const QString &line : lines) {
+    QStringList libraries; // without the endings of their files
+    for (const QString &line : QString::fromUtf8(objdump.readAll()).split('\n')) {
         const QString entry = line.simplified();
         if (entry.startsWith("NEEDED "))
             libraries.append(entry.mid(7).section(".so", 0, 0));
     }
     QVERIFY(libraries.contains("libQt5Core") && libraries.contains("libcups"));
 
-    const auto drop = [&](const QString &names) {
-        const QStringList dropped = libraries.filter(QRegularExpression("^(" + names + ")$"));
-        for (const QString &library : dropped)
-            libraries.removeAll(library);
+    const QHash<QString, QString> headings{
+        {"Qt 5", "libQt5\\w+"},
+        {"CUPS (libcups)", "libcups"},
+        {"OpenSSL (libcrypto)", "lib(crypto|ssl)"},
+        {"GNU C Library", "lib(c|m|dl|pthread)|ld-linux.*"},
+        {"libstdc++ and libgcc", "lib(stdc\\+\\+|gcc_s)"},
     };
-    drop("lib(asan|ubsan|lsan)"); // part of a developer's build only
-    const QString shown = shownNotices();
-    for (const auto &[names, heading] : notices) {
-        QVERIFY2(shown.contains(". " + heading + '\n'), qPrintable(heading));
-        drop(names);
+    QStringList covered{"lib(asan|ubsan|lsan)"}; // part of a developer's build only
+    for (auto i = headings.begin(); i != headings.end(); ++i) {
+        QVERIFY2(shownNotices().contains(". " + i.key() + '\n'), qPrintable(i.key()));
+        covered.append(i.value());
     }
-    QVERIFY2(libraries.isEmpty(), qPrintable(libraries.join(' ')));
+    const QRegularExpression names("^(" + covered.join('|') + ")$");
+    for (const QString &library : libraries)
+        QVERIFY2(names.match(library).hasMatch(), qPrintable(library));
 }
 
 void TestAbout::noticesHoldLicences()
@@ -312,18 +250,14 @@ void TestAbout::questionComesUntilAnswered()
         Panel panel;
         QVERIFY2(panel.start(), qPrintable(panel.error()));
         QCOMPARE(panel.front(), questionWindow);
-        QVERIFY(!QFile::exists(settingsFile));
         QVERIFY2(panel.click(button), qPrintable(panel.error()));
         QCOMPARE(panel.front(), mainWindow);
     }
-    // Any file at all counts as answered.
-    for (const QByteArray &settings : {fileText(settingsFile), QByteArray("")}) {
-        QVERIFY(setFileText(settingsFile, settings));
-        Panel panel;
-        QVERIFY2(panel.start(), qPrintable(panel.error()));
-        QCOMPARE(panel.front(), mainWindow);
-        QCOMPARE(fileText(settingsFile), settings);
-    }
+    QVERIFY(setFileText(settingsFile, "")); // any file at all counts as answered
+    Panel panel;
+    QVERIFY2(panel.start(), qPrintable(panel.error()));
+    QCOMPARE(panel.front(), mainWindow);
+    QCOMPARE(fileText(settingsFile), QByteArray(""));
 }
 
 void TestAbout::aboutBoxLeadsOn()
@@ -335,7 +269,6 @@ void TestAbout::aboutBoxLeadsOn()
 
     QVERIFY2(panel.click(PanelWidget::button("Legal notices...")), qPrintable(panel.error()));
     QCOMPARE(panel.front(), QString("LicenseDialog"));
-    QVERIFY(panel.text(textEdit).startsWith("LEGAL NOTICES\n"));
     QVERIFY2(panel.click(okButton), qPrintable(panel.error()));
 
     const PanelWidget yes = PanelWidget::button("Yes, I want to help improve your products");

@@ -8,9 +8,9 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextDocument>
 #include <QWheelEvent>
-#include <QtTest>
 
 namespace {
 
@@ -37,25 +37,15 @@ struct DuplexGroup
             const QImage picture = image(group.buttonAt(i)->icon());
             const bool plain = picture == image(QIcon(paths[i]));
             const bool selected = picture == image(QIcon(paths[i] + "-selected"));
-            kinds += QLatin1Char(plain == selected ? '?' : selected ? 'S' : '.');
+            kinds += plain == selected ? '?' : selected ? 'S' : '.';
         }
-        return kinds + QLatin1Char(' ') + label->text();
+        return kinds + ' ' + label->text();
     }
 
     QWidget window;
     BixButtonGroup group{&window, "Duplex:"};
     QLabel *label = group.findChild<QLabel *>();
 };
-
-/// A label's text as a user reads it, the mark left out.
-QString readText(const QLabel *label)
-{
-    if (label->textFormat() == Qt::PlainText)
-        return label->text();
-    QTextDocument document;
-    document.setHtml(label->text());
-    return document.toPlainText().remove(QChar::ObjectReplacementCharacter).trimmed();
-}
 
 } // namespace
 
@@ -99,10 +89,9 @@ void TestWidgets::groupSelectsByName()
     DuplexGroup duplex;
     for (const char *unknown : {"short edge", "Short", ""}) {
         duplex.group.setButtonByValue("Short edge");
-        QCOMPARE(duplex.shown(), QString("..S Duplex: Short edge"));
-        duplex.group.setButtonByValue(QLatin1String(unknown));
+        QCOMPARE(duplex.group.currentIndex(), 2);
+        duplex.group.setButtonByValue(unknown);
         QCOMPARE(duplex.shown(), QString("S.. Duplex: Off"));
-        QCOMPARE(duplex.group.currentIndex(), 0);
     }
     duplex.group.setButton(3); // none there
     duplex.group.setButton(nullptr);
@@ -119,27 +108,29 @@ void TestWidgets::disabledGroupKeepsItsButtons()
     duplex.group.setEnabledAt(2, false);
     duplex.group.setGroupEnabled(true);
     duplex.click(1);
-    QCOMPARE(duplex.shown(), QString("S.. Duplex: Off"));
+    QCOMPARE(duplex.group.currentIndex(), 0);
     duplex.click(2);
-    QCOMPARE(duplex.shown(), QString("..S Duplex: Short edge"));
+    QCOMPARE(duplex.group.currentIndex(), 2);
 }
 
 void TestWidgets::groupShowsNamesAsTheyAre()
 {
-    const QString title = "<img src=':/icons/logo'>:";
     const QString name = "<b>Black</b> & white &lt;";
     QWidget window;
-    BixButtonGroup group(&window, title);
+    BixButtonGroup group(&window, "<img src=':/icons/logo'>:");
     group.addButton(name, duplexPaths[0]);
     const auto *label = group.findChild<QLabel *>();
-    const QString whole = title + ' ' + name;
+    const QString whole = "<img src=':/icons/logo'>: " + name;
     for (int i = 0; i < 2; ++i) {
         group.setButtonByValue(name);
-        QCOMPARE(readText(label), whole);
+        QCOMPARE(label->textFormat(), Qt::PlainText);
+        QCOMPARE(label->text(), whole);
         group.markConstrained(true);
-        QCOMPARE(readText(label), whole);
+        QTextDocument document;
+        document.setHtml(label->text());
+        QCOMPARE(document.toPlainText().remove(QChar::ObjectReplacementCharacter).trimmed(), whole);
         group.clearMark();
-        QCOMPARE(readText(label), whole);
+        QCOMPARE(label->text(), whole.toHtmlEscaped());
     }
 }
 
@@ -159,9 +150,7 @@ void TestWidgets::groupCanBeRefilled()
     duplex.group.addButton(duplexNames[0], duplexPaths[0]);
     duplex.group.setButtonByValue(duplexNames[0]);
     QCoreApplication::processEvents();
-    QSignalSpy clicks(&duplex.group, SIGNAL(buttonClicked(int)));
     duplex.click(0);
-    QCOMPARE(clicks.value(0).value(0).toInt(), 0);
     QCOMPARE(duplex.shown({duplexPaths[2], duplexPaths[0]}), "S. Sides: Short edge");
 }
 
@@ -214,7 +203,7 @@ void TestWidgets::refreshDependents()
     BixCheckBoxButton button(&window, "Staple", QIcon());
     ComboBoxEx box(&window);
     ComboBoxEx full(&window); // one empty list among several is enough
-    box.addItems(items.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    box.addItems(items.split(' ', Qt::SkipEmptyParts));
     full.addItem("Off");
     button.addDependent(&box, "Off");
     button.addDependent(&full, "None");
@@ -224,7 +213,7 @@ void TestWidgets::refreshDependents()
     QStringList left;
     for (int i = 0; i < box.count(); ++i)
         left << box.itemText(i);
-    QTEST(left.join(QLatin1Char(' ')), "left");
+    QTEST(left.join(' '), "left");
     QCOMPARE(full.count(), 1);
     QCOMPARE(full.isEnabled(), box.isEnabled());
     QString state;
@@ -247,12 +236,15 @@ void TestWidgets::popupWidth()
         box.hidePopup();
         return shown;
     };
-    const QString longText(40, QLatin1Char('W'));
+    const QString longText(40, 'W');
     box.addItem("A4");
     QCOMPARE(width(), 215); // the box's own
     while (box.count() < 10)
         box.addItem(longText);
-    QVERIFY(width() >= box.fontMetrics().horizontalAdvance(longText));
+    const int short10 = width();
+    QVERIFY(short10 >= box.fontMetrics().horizontalAdvance(longText));
+    box.addItem(longText); // from here on the list may scroll
+    QCOMPARE(width(), short10 + box.view()->verticalScrollBar()->sizeHint().width());
 
     box.clear(); // another printer: nothing of the longer list stays
     QCOMPARE(width(), 215);
@@ -288,9 +280,7 @@ void TestWidgets::disabledTabDrawsNothing()
     const auto paint = [](const QString &text, const QString &icon, bool enabled) {
         BixTabWidget tabs;
         tabs.setTabPosition(QTabWidget::West);
-        tabs.setStyleSheet(QStringLiteral(
-            "QTabBar::tab{ width: 180px; height: 49px } "
-            "QTabBar::tab:disabled{ width: 0; height: 0; margin: 0; padding: 0; border: none }"));
+        tabs.setStyleSheet("QTabBar::tab:disabled{ width: 0; height: 0; margin: 0; padding: 0; }");
         tabs.addTab(new QWidget, "Printer");
         tabs.addTab(new QWidget, QIcon(icon), text);
         tabs.setTabEnabled(1, enabled);
