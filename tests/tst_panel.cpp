@@ -64,6 +64,7 @@ private slots:
     void printerAdded_data();
     void printerAdded();
     void printerGoneBeforeApply();
+    void printerLosesItsPpd();
 
 private:
     std::unique_ptr<PrintServer> server;
@@ -435,6 +436,29 @@ void TestPanel::printerGoneBeforeApply()
     QVERIFY(panel.tabs().value(0).current);
     QVERIFY(!panel.rowsOf(0).contains(printer));
     QCOMPARE(fileText(cfgFile(printer)), saved);
+}
+
+void TestPanel::printerLosesItsPpd()
+{
+    const QString stored = "/etc/cups/ppd/Ratex_200.ppd";
+    const QByteArray sound = fileText(stored);
+    Panel panel;
+    QVERIFY2(panel.startWith(printer) && panel.click("chkBxOption20"), qPrintable(panel.error()));
+    QVERIFY(!sound.isEmpty() && setFileText(stored, "rubbish\n"));
+    QVERIFY2(panel.select("Ratex_200"), qPrintable(panel.error()));
+    QCOMPARE(panel.message(), noMessage);
+    // Nothing of the printer before is left to be taken for its options.
+    QVERIFY(!panel.hasSelection());
+    QCOMPARE(panel.shownTabs(), onlyPrinterPage);
+    QVERIFY(!panel.isShown("chkBxOption20"));
+    QVERIFY(!panel.isShown(rootWarning));
+    QVERIFY(!panel.isEnabled(Panel::standardButton("Apply")));
+    QVERIFY(!QFile::exists(cfgFile("Ratex_200")));
+
+    QVERIFY(setFileText(stored, sound));
+    QVERIFY2(panel.select("Ratex_200"), qPrintable(panel.error()));
+    QCOMPARE(panel.windowTitle(), QString("Brixola Press Desk - Ratex_200"));
+    QVERIFY(panel.shownTabs().contains("Basic"));
 }
 
 QTEST_GUILESS_MAIN(TestPanel)

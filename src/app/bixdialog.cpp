@@ -258,7 +258,8 @@ void BixDialog::printerChanged(int row, int, int previousRow, int)
     if (!currentStore) {
         printerTab->clearMarks();
         setWindowTitle(tr("Brixola Press Desk"));
-        checkPrinters();
+        if (!checkPrinters())
+            unselectPrinters(); // the queue is there, but its PPD can't be read
         setButtonsEnabled(false);
         return;
     }

@@ -236,9 +236,9 @@ void PrinterTab::changePrinter(int row, int, int prev_row, int)
             currentStore = store.get();
             stores.push_back(std::move(store));
         }
-    } else {
-        rootWarning->hide();
     }
+    if (!currentStore)
+        rootWarning->hide();
     currentCfgPath = currentStore ? cfgPath(currentStore->printerName()) : QString();
 }
 
