@@ -37,6 +37,12 @@ Values basicValues(const QString &text)
     return values;
 }
 
+/// Starts the panel with the page "Basic" of the printer.
+bool startOnBasic(Panel *panel)
+{
+    return panel->startWith(printer) && panel->clickTab("Basic");
+}
+
 } // namespace
 
 class TestPanel : public QObject
@@ -51,7 +57,6 @@ private slots:
     void startSelectsNothing();
     void firstContact();
     void changeToItsEnd();
-    void cancelSavesNothing();
     void installedOptionChanged();
 
     void valuesThatExcludeEachOther_data();
@@ -163,7 +168,7 @@ void TestPanel::firstContact()
 void TestPanel::changeToItsEnd()
 {
     Panel panel;
-    QVERIFY2(panel.startWith(printer) && panel.clickTab("Basic") && panel.choose(pageSize, "A5") &&
+    QVERIFY2(startOnBasic(&panel) && panel.choose(pageSize, "A5") &&
                  panel.clickGroupButton(duplex, "Long edge") &&
                  panel.clickGroupButton(collate, "Off") &&
                  panel.clickGroupButton(color, "Black & white") && panel.apply(),
@@ -184,25 +189,17 @@ void TestPanel::changeToItsEnd()
     QVERIFY2(panel.answer() && panel.waitForEnd(), qPrintable(panel.error()));
     QCOMPARE(panel.exitStatus(), 0);
 
-    QVERIFY2(panel.startWith(printer) && panel.clickTab("Basic"), qPrintable(panel.error()));
+    QVERIFY2(startOnBasic(&panel), qPrintable(panel.error()));
     QCOMPARE(panel.currentText(pageSize), QString("A5"));
     QCOMPARE(panel.currentText(duplex), QString("Long edge"));
     QCOMPARE(panel.currentText(collate), QString("Off"));
     QCOMPARE(panel.currentText(color), QString("Black & white"));
-}
 
-void TestPanel::cancelSavesNothing()
-{
-    Panel panel;
-    QVERIFY2(panel.startWith(printer), qPrintable(panel.error()));
-    const QByteArray saved = fileText(cfgFile(printer));
-    const QByteArray published = fileText(lpoptionsFile());
-    QVERIFY2(panel.clickTab("Basic") && panel.choose(pageSize, "A5") && panel.cancel() &&
-                 panel.waitForEnd(),
+    const QByteArray saved = fileText(cfgFile(printer)) + fileText(lpoptionsFile());
+    QVERIFY2(panel.choose(pageSize, "A4") && panel.cancel() && panel.waitForEnd(),
              qPrintable(panel.error()));
     QCOMPARE(panel.exitStatus(), 0);
-    QCOMPARE(fileText(cfgFile(printer)), saved);
-    QCOMPARE(fileText(lpoptionsFile()), published);
+    QCOMPARE(fileText(cfgFile(printer)) + fileText(lpoptionsFile()), saved);
 }
 
 void TestPanel::installedOptionChanged()
@@ -251,7 +248,7 @@ void TestPanel::valuesThatExcludeEachOther()
     QFETCH(QString, free);
 
     Panel panel;
-    QVERIFY2(panel.startWith(printer) && panel.clickTab("Basic"), qPrintable(panel.error()));
+    QVERIFY2(startOnBasic(&panel), qPrintable(panel.error()));
     for (const Value &value : basicValues(chosen))
         QVERIFY2(panel.set(value), qPrintable(panel.error()));
     for (const Value &value : basicValues(shown))
@@ -276,9 +273,8 @@ void TestPanel::valueMovesWithTheHardware()
     const Value fromLargeTray(source, "Large capacity tray");
     const Value smallSheet(pageSize, "A6");
     Panel panel;
-    QVERIFY2(panel.startWith(printer) && panel.clickTab("Basic") && panel.set(smallSheet) &&
-                 panel.clickTab("Printer") && panel.choose("cmbBxOption17", "Staple finisher") &&
-                 panel.click("chkBxOption20"),
+    QVERIFY2(startOnBasic(&panel) && panel.set(smallSheet) && panel.clickTab("Printer") &&
+                 panel.choose("cmbBxOption17", "Staple finisher") && panel.click("chkBxOption20"),
              qPrintable(panel.error()));
     QVERIFY(!panel.canSet(finisherTray)); // small sheets don't get there
     QVERIFY2(panel.clickTab("Basic") && panel.set(fromLargeTray) && panel.set(finisherTray),
@@ -305,7 +301,7 @@ void TestPanel::savedConflictIsMoved()
     QVERIFY(setFileText(cfgFile(printer), "InputSlot=LargeCapacity\nOutputBin=Finisher\n"
                                           "PageSize=B5\nMediaType=NoSuchMedia\n"));
     Panel panel;
-    QVERIFY2(panel.startWith(printer) && panel.clickTab("Basic"), qPrintable(panel.error()));
+    QVERIFY2(startOnBasic(&panel), qPrintable(panel.error()));
     QCOMPARE(panel.currentText(source), QString("Automatic"));
     QCOMPARE(panel.currentText(destination), QString("Automatic"));
     QCOMPARE(panel.currentText(pageSize), QString("JIS B5"));
@@ -406,7 +402,7 @@ void TestPanel::printerAdded()
     QFETCH(QString, ppd);
     QFETCH(QString, row);
     Panel panel;
-    QVERIFY2(panel.startWith(printer) && panel.clickTab("Basic"), qPrintable(panel.error()));
+    QVERIFY2(startOnBasic(&panel), qPrintable(panel.error()));
     QVERIFY2(server->addQueue(name, ppd), qPrintable(server->error()));
     QVERIFY2(panel.choose(pageSize, "A5"), qPrintable(panel.error()));
 
@@ -424,8 +420,7 @@ void TestPanel::printerAdded()
 void TestPanel::printerGoneBeforeApply()
 {
     Panel panel;
-    QVERIFY2(panel.startWith(printer) && panel.clickTab("Basic") && panel.choose(pageSize, "A5"),
-             qPrintable(panel.error()));
+    QVERIFY2(startOnBasic(&panel) && panel.choose(pageSize, "A5"), qPrintable(panel.error()));
     const QByteArray saved = fileText(cfgFile(printer));
     QVERIFY2(server->removeQueue(printer), qPrintable(server->error()));
 

@@ -29,14 +29,14 @@ struct DuplexGroup
     }
     void click(int i) { QTest::mouseClick(group.buttonAt(i), Qt::LeftButton); }
     /// "S" for a picture of the selected kind, "." for a plain one, and the label's text.
-    QString shown(const QStringList &paths = duplexPaths) const
+    QString shown() const
     {
         const auto image = [](const QIcon &icon) { return icon.pixmap(50, 50).toImage(); };
         QString kinds;
-        for (int i = 0; i < paths.size(); ++i) {
+        for (int i = 0; i < duplexPaths.size(); ++i) {
             const QImage picture = image(group.buttonAt(i)->icon());
-            const bool plain = picture == image(QIcon(paths[i]));
-            const bool selected = picture == image(QIcon(paths[i] + "-selected"));
+            const bool plain = picture == image(QIcon(duplexPaths[i]));
+            const bool selected = picture == image(QIcon(duplexPaths[i] + "-selected"));
             kinds += plain == selected ? '?' : selected ? 'S' : '.';
         }
         return kinds + ' ' + label->text();
@@ -58,7 +58,6 @@ private slots:
     void groupSelectsByName();
     void disabledGroupKeepsItsButtons();
     void groupShowsNamesAsTheyAre();
-    void groupCanBeRefilled();
     void checkBoxButtonSwitchesDependents();
     void refreshDependents_data();
     void refreshDependents();
@@ -132,26 +131,6 @@ void TestWidgets::groupShowsNamesAsTheyAre()
         group.clearMark();
         QCOMPARE(label->text(), whole.toHtmlEscaped());
     }
-}
-
-void TestWidgets::groupCanBeRefilled()
-{
-    DuplexGroup duplex;
-    const QPointer<QPushButton> former = duplex.group.buttonAt(0);
-    duplex.group.clearButtons();
-    QVERIFY(former && !former->isVisible());
-    duplex.group.setTitle("Sides:");
-    duplex.group.setButtonByValue("Off");
-    QCOMPARE(duplex.label->text(), QString("Sides:"));
-    QCOMPARE(duplex.group.currentIndex(), -1);
-    QCOMPARE(duplex.group.currentText(), QString());
-
-    duplex.group.addButton(duplexNames[2], duplexPaths[2]);
-    duplex.group.addButton(duplexNames[0], duplexPaths[0]);
-    duplex.group.setButtonByValue(duplexNames[0]);
-    QCoreApplication::processEvents();
-    duplex.click(0);
-    QCOMPARE(duplex.shown({duplexPaths[2], duplexPaths[0]}), "S. Sides: Short edge");
 }
 
 // BixCheckBoxButton
