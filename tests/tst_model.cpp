@@ -93,6 +93,7 @@ private slots:
     void lookUps();
     void selecting_data();
     void selecting();
+    void conditionHoldsByKey();
     void noChoiceOfTheOptionWithdraws();
     void releaseAllThenReselect();
     void randomSelections();
@@ -143,7 +144,6 @@ a condition goes                      | A 1, B 2, C 3   | C=x A=x B=x      | A=x
 a condition comes back                | A 1, B 2, C 3   | C=x A=x B=x      | A=x B=x A=y A=x | C=x
 target selected first                 | A 1, B 2, C 3   | C=x A=x B=x      | C=x A=x B=x     | C=x
 its going lifts nothing               | A 1, B 2, C 3   | C=x A=x B=x      | C=x A=x B=x C=y | C=x
-condition by key, not by pointer      | A 1 x, B 2, C 3 | C=x A=x B=x      | A=x B=x         | C=x
 of equal ranks the second is target   | A 9, B 9, C 9   | C=x A=x B=x      | C=x             | A=x
 and the third has no part             | A 9, B 9, C 9   | C=x A=x B=x      | A=x B=x         |
 two known values make no rule         | A 1, B 2, C 3   | A=x B=x C=q      | A=x B=x         |
@@ -162,6 +162,15 @@ void TestModel::selecting()
         addRule(store.get(), rule);
     selectValues(*store, selected.section('!', -1));
     QTEST(blockedValues(*store), "blocked");
+}
+
+void TestModel::conditionHoldsByKey()
+{
+    const auto store = makeStore("A 1 x x y\nB 2 x y\nC 3 x y\n");
+    addRule(store.get(), "A=x B=x C=x"); // finds the first of the two
+    store->find("A")->setCurrent(store->find("A")->choiceList().at(1));
+    selectValues(*store, "B=x");
+    QCOMPARE(blockedValues(*store), QString("C=x"));
 }
 
 void TestModel::noChoiceOfTheOptionWithdraws()

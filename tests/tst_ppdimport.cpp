@@ -206,7 +206,7 @@ a mode without styles has no conflicts | Pnch: None | cHole=True |
 cover mode off | CvrM: None Front | cCovBut=False | cCovPOBI=True cCovPOBO=True cCovPOFI=True cCovPOFO=True
 interleaving takes transparencies alone | CvrM: None Front | cIntBut=True | FKPToggle=On MediaType=Label MediaType=Plain cCovBut=True cInsBut=True
 no sorting, no sets | Coll: True False; CvrM: None Front; BXCollate1: None Proof; BXSuperWatermark: None All | Coll=False | cCovBut=True cInsBut=True cIntBut=True cJobStore=True cSuper=True
-no storage, no sets that need it | Coll: True False; Option18: None Disk; CvrM: None Front; BXCollate1: None Proof; SupportsPrivatePrint=True; SupportsCustomBox=True | Option18=None | BXCollate1=Proof cCovBut=True cCustomBox=True cInsBut=True cIntBut=True cJobStore=True cPrivatePrint=True
+no storage, no sets that need it | Coll: True False; Option18: None Disk; Option8: Off On; *Coll False *Option8 On; CvrM: None Front; BXCollate1: None Proof; SupportsPrivatePrint=True; SupportsCustomBox=True | Option18=None | BXCollate1=Proof cCovBut=True cCustomBox=True cInsBut=True cIntBut=True cJobStore=True cPrivatePrint=True
 forced duplex has conflicts of duplex, the lower ranks | Duplex: None DuplexTumble DuplexNoTumble; OutputBin: Top Side; *Duplex DuplexTumble *OutputBin Side; *Duplex DuplexNoTumble *PageSize A5 | FKPDuplex=On | Duplex=None FKPToggle=Off OutputBin=Side
 policy | ColorModel: CMYK RGB Gray | FKPColorMode=On | ColorModel=CMYK ColorModel=RGB FKPToggle=Off
 coloured watermarks need colour | ColorModel: CMYK Gray; Wclr: Black Red Green Blue | ColorModel=Gray | Wclr=Blue Wclr=Green Wclr=Red

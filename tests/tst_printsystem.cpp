@@ -1,6 +1,7 @@
 // The library's view of the print system: queues, their PPDs and their status, with a scheduler of
 // its own and the real lp commands.
 
+#include "app/publication.h"
 #include "model/optionstore.h"
 #include "model/printerstatus.h"
 #include "model/printqueues.h"
@@ -51,6 +52,7 @@ private slots:
     void rowsByPpd_data();
     void rowsByPpd();
     void temporaryFiles();
+    void publishedSettings();
 
     void statusWords();
     void realStatus();
@@ -167,6 +169,16 @@ void TestPrintSystem::temporaryFiles()
         QCOMPARE(fileText(file), ppd);
         QVERIFY(QFile::remove(file));
     }
+}
+
+void TestPrintSystem::publishedSettings()
+{
+    Settings settings{{"PageSize", "A4"}, {"Duplex", ""}, {"JobName", "x"}};
+    settings.insert("PageSize", "A5"); // the later one counts
+    const QStringList keywords{"Duplex", "PageSize", "Coll"};
+    QCOMPARE(Publication::command("P", keywords, settings),
+             QString("lpoptions -p P -o PageSize=A5"));
+    QCOMPARE(Publication::command("P", {}, settings), QString("lpoptions -p P"));
 }
 
 // Status
