@@ -4,7 +4,7 @@
 #include "app/licensedialog.h"
 #include "app/telemetrydialog.h"
 #include "storage/settingsfile.h"
-#include "support/paneldriver.h"
+#include "support/panelsteps.h"
 #include "support/testhelpers.h"
 
 #include <QAccessible>
@@ -22,37 +22,10 @@ constexpr int scaleFactor = 2;
 
 const QString settingsFile = "/usr/share/brixola/tester/Settings";
 
-QString shownNotices()
-{
-    return LicenseDialog().findChild<QTextEdit *>()->toPlainText();
-}
-
 const PanelWidget textEdit = PanelWidget::ofClass("QTextEdit");
 const PanelWidget okButton = PanelWidget::standardButton("Ok");
-const PanelWidget cancelButton = PanelWidget::standardButton("Cancel");
-const QString questionWindow = "TelemetryDialog";
-const QString mainWindow = "BixDialog";
-
-/// The unchanged program.
-class Panel : public PanelDriver
-{
-public:
-    Panel()
-        : PanelDriver(PRESSDESK_PROGRAM)
-    {
-        setEnvironment("QT_SCALE_FACTOR", "1");
-    }
-
-    /// Class of the window that the user sees in front.
-    QString front()
-    {
-        for (const QJsonObject &window : windows()) {
-            if (window.value("visible").toBool())
-                return window.value("class").toString();
-        }
-        return {};
-    }
-};
+const PanelWidget question = PanelWidget::ofClass("TelemetryDialog");
+const PanelWidget mainWindow = PanelWidget::ofClass("BixDialog");
 
 } // namespace
 
@@ -69,18 +42,23 @@ public:
     }
 
 private slots:
+    void initTestCase();
     void init();
-    void question_data();
-    void question();
+    void recordedAnswer_data();
+    void recordedAnswer();
     void aboutBox();
     void controlsHaveNames();
     void noticesCoverLinkedLibraries();
-    void noticesHoldLicences();
     void firstStartInLanguage_data();
     void firstStartInLanguage();
     void questionComesUntilAnswered();
     void aboutBoxLeadsOn();
 };
+
+void TestAbout::initTestCase()
+{
+    qunsetenv("QT_SCALE_FACTOR"); // the program has a screen of its own
+}
 
 void TestAbout::init()
 {
@@ -89,7 +67,7 @@ void TestAbout::init()
 
 // Data collection
 
-void TestAbout::question_data()
+void TestAbout::recordedAnswer_data()
 {
     // Of the settings file "-" means that it isn't there, "+" that a folder is in its place; "/"
     // stands for a line's end. The answer is what the dialog shows first, then what is clicked, if
@@ -109,7 +87,7 @@ a file that can't be opened                 | +                                 
 )");
 }
 
-void TestAbout::question()
+void TestAbout::recordedAnswer()
 {
     QFETCH(QString, before);
     QFETCH(QString, answer);
@@ -186,6 +164,7 @@ void TestAbout::noticesCoverLinkedLibraries()
     }
     QVERIFY(libraries.contains("libQt5Core") && libraries.contains("libcups"));
 
+    const QString notices = LicenseDialog().findChild<QTextEdit *>()->toPlainText();
     const QHash<QString, QString> headings{
         {"Qt 5", "libQt5\\w+"},
         {"CUPS (libcups)", "libcups"},
@@ -195,22 +174,18 @@ void TestAbout::noticesCoverLinkedLibraries()
     };
     QStringList covered{"lib(asan|ubsan|lsan)"}; // part of a developer's build only
     for (auto i = headings.begin(); i != headings.end(); ++i) {
-        QVERIFY2(shownNotices().contains(". " + i.key() + '\n'), qPrintable(i.key()));
+        QVERIFY2(notices.contains(". " + i.key() + '\n'), qPrintable(i.key()));
         covered.append(i.value());
     }
     const QRegularExpression names("^(" + covered.join('|') + ")$");
     for (const QString &library : libraries)
         QVERIFY2(names.match(library).hasMatch(), qPrintable(library));
-}
 
-void TestAbout::noticesHoldLicences()
-{
-    const QString shown = shownNotices();
     const QString system = "/usr/share/common-licenses/";
     for (const QString &path : {QString(PRESSDESK_SOURCE_DIR "/LICENSE"), system + "LGPL-3",
                                 system + "GPL-3", system + "Apache-2.0"}) {
         const QString text = QString::fromUtf8(fileText(path)).trimmed();
-        QVERIFY2(!text.isEmpty() && shown.contains(text), qPrintable(path));
+        QVERIFY2(!text.isEmpty() && notices.contains(text), qPrintable(path));
     }
 }
 
@@ -234,48 +209,45 @@ void TestAbout::firstStartInLanguage()
     Panel panel;
     panel.setLanguage(QTest::currentDataTag());
     QVERIFY2(panel.start(), qPrintable(panel.error()));
-    QCOMPARE(panel.front(), questionWindow);
+    QVERIFY(panel.isShown(question) && !panel.isShown(mainWindow));
     const QString policy = panel.text(textEdit);
     QCOMPARE(policy.section('\n', 0, 0), heading);
     QVERIFY(policy.contains("Brixola Insight"));
     // Yes is what comes of an answer left alone.
     QVERIFY2(panel.click(okButton), qPrintable(panel.error()));
-    QCOMPARE(panel.front(), mainWindow);
+    QVERIFY(panel.isShown(mainWindow) && !panel.isShown(question));
     QCOMPARE(fileText(settingsFile), QByteArray("Telemetry=True\n"));
 }
 
 void TestAbout::questionComesUntilAnswered()
 {
-    for (const PanelWidget &button : {cancelButton, okButton}) {
-        Panel panel;
+    Panel panel;
+    for (int i = 0; i < 2; ++i) {
         QVERIFY2(panel.start(), qPrintable(panel.error()));
-        QCOMPARE(panel.front(), questionWindow);
-        QVERIFY2(panel.click(button), qPrintable(panel.error()));
-        QCOMPARE(panel.front(), mainWindow);
+        QVERIFY(panel.isShown(question));
+        QVERIFY2(panel.cancel(), qPrintable(panel.error()));
+        QVERIFY(panel.isShown(mainWindow));
+        QVERIFY2(panel.cancel() && panel.waitForEnd(), qPrintable(panel.error()));
     }
     QVERIFY(setFileText(settingsFile, "")); // any file at all counts as answered
-    Panel panel;
     QVERIFY2(panel.start(), qPrintable(panel.error()));
-    QCOMPARE(panel.front(), mainWindow);
+    QVERIFY(panel.isShown(mainWindow));
     QCOMPARE(fileText(settingsFile), QByteArray(""));
 }
 
 void TestAbout::aboutBoxLeadsOn()
 {
     QVERIFY(QDir().mkdir(userDirectory()) && setFileText(settingsFile, "Telemetry=False\n"));
-    Panel panel;
-    QVERIFY2(panel.start() && panel.click("About"), qPrintable(panel.error()));
-    QCOMPARE(panel.front(), QString("AboutDialog"));
-
-    QVERIFY2(panel.click(PanelWidget::button("Legal notices...")), qPrintable(panel.error()));
-    QCOMPARE(panel.front(), QString("LicenseDialog"));
-    QVERIFY2(panel.click(okButton), qPrintable(panel.error()));
-
     const PanelWidget yes = PanelWidget::button("Yes, I want to help improve your products");
     const PanelWidget collection = PanelWidget::button("Data collection...");
-    // What was chosen and not confirmed is forgotten.
-    QVERIFY2(panel.click(collection) && panel.click(yes) && panel.click(cancelButton) &&
-                 panel.click(collection),
+    Panel panel;
+    QVERIFY2(panel.start() && panel.click("About") &&
+                 panel.click(PanelWidget::button("Legal notices...")),
+             qPrintable(panel.error()));
+    QVERIFY(panel.isShown(PanelWidget::ofClass("LicenseDialog")));
+    // What is chosen and not confirmed is forgotten.
+    QVERIFY2(panel.click(okButton) && panel.click(collection) && panel.click(yes) &&
+                 panel.cancel() && panel.click(collection),
              qPrintable(panel.error()));
     QVERIFY(!panel.isChecked(yes));
     QVERIFY2(panel.click(yes) && panel.click(okButton), qPrintable(panel.error()));
