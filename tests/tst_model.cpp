@@ -95,7 +95,6 @@ private slots:
     void selecting();
     void conditionHoldsByKey();
     void noChoiceOfTheOptionWithdraws();
-    void releaseAllThenReselect();
     void randomSelections();
 };
 
@@ -188,20 +187,6 @@ void TestModel::noChoiceOfTheOptionWithdraws()
     }
     option->setDefaultChoice(foreign);
     QVERIFY(!option->defaultChoice());
-}
-
-void TestModel::releaseAllThenReselect()
-{
-    const auto store = makeStore("A 1 x y\nB 2 x y\nC 3 x y\n");
-    addRule(store.get(), "A=x B=x C=x");
-    addRule(store.get(), "A=x C=y");
-    selectValues(*store, "A=x B=x");
-    store->releaseAllConstraints();
-    // A target's own going lifts nothing, but its conditions are released as well.
-    QCOMPARE(blockedValues(*store), QString());
-    QCOMPARE(store->find("A")->currentKey(), QString("x"));
-    selectValues(*store, "B=x A=x");
-    QCOMPARE(blockedValues(*store), QString("C=x C=y"));
 }
 
 void TestModel::randomSelections()

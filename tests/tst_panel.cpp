@@ -68,7 +68,6 @@ private slots:
     void printerLost();
     void printerAdded_data();
     void printerAdded();
-    void printerGoneBeforeApply();
     void printerLosesItsPpd();
 
 private:
@@ -415,22 +414,6 @@ void TestPanel::printerAdded()
     QVERIFY2(panel.apply(), qPrintable(panel.error()));
     QCOMPARE(panel.message(), applied);
     QVERIFY(publishedOptions(printer).contains("PageSize=A5"));
-}
-
-void TestPanel::printerGoneBeforeApply()
-{
-    Panel panel;
-    QVERIFY2(startOnBasic(&panel) && panel.choose(pageSize, "A5"), qPrintable(panel.error()));
-    const QByteArray saved = fileText(cfgFile(printer));
-    QVERIFY2(server->removeQueue(printer), qPrintable(server->error()));
-
-    QVERIFY2(panel.apply(), qPrintable(panel.error()));
-    QCOMPARE(panel.message(), notPublished);
-    QVERIFY2(panel.answer(), qPrintable(panel.error()));
-    QCOMPARE(panel.message(), noMessage);
-    QVERIFY(panel.tabs().value(0).current);
-    QVERIFY(!panel.rowsOf(0).contains(printer));
-    QCOMPARE(fileText(cfgFile(printer)), saved);
 }
 
 void TestPanel::printerLosesItsPpd()
