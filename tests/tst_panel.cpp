@@ -68,6 +68,7 @@ private slots:
     void printerLost();
     void printerAdded_data();
     void printerAdded();
+    void printerLosesItsPpd_data();
     void printerLosesItsPpd();
 
 private:
@@ -416,14 +417,25 @@ void TestPanel::printerAdded()
     QVERIFY(publishedOptions(printer).contains("PageSize=A5"));
 }
 
+void TestPanel::printerLosesItsPpd_data()
+{
+    addRows({"key"}, R"(
+by a click |
+by a key   | Down
+)");
+}
+
 void TestPanel::printerLosesItsPpd()
 {
+    QFETCH(QString, key);
+    const QString other = "Ratex_200"; // in the next row
     const QString stored = "/etc/cups/ppd/Ratex_200.ppd";
     const QByteArray sound = fileText(stored);
     Panel panel;
-    QVERIFY2(panel.startWith(printer) && panel.click("chkBxOption20"), qPrintable(panel.error()));
+    QVERIFY2(panel.startWith(printer) && panel.click("chkBxOption20") && panel.select(printer),
+             qPrintable(panel.error()));
     QVERIFY(!sound.isEmpty() && setFileText(stored, "rubbish\n"));
-    QVERIFY2(panel.select("Ratex_200"), qPrintable(panel.error()));
+    QVERIFY2(key.isEmpty() ? panel.select(other) : panel.press(key), qPrintable(panel.error()));
     QCOMPARE(panel.message(), noMessage);
     // Nothing of the printer before is left to be taken for its options.
     QVERIFY(!panel.hasSelection());
@@ -431,11 +443,11 @@ void TestPanel::printerLosesItsPpd()
     QVERIFY(!panel.isShown("chkBxOption20"));
     QVERIFY(!panel.isShown(rootWarning));
     QVERIFY(!panel.isEnabled(Panel::standardButton("Apply")));
-    QVERIFY(!QFile::exists(cfgFile("Ratex_200")));
+    QVERIFY(!QFile::exists(cfgFile(other)));
 
     QVERIFY(setFileText(stored, sound));
-    QVERIFY2(panel.select("Ratex_200"), qPrintable(panel.error()));
-    QCOMPARE(panel.windowTitle(), QString("Brixola Press Desk - Ratex_200"));
+    QVERIFY2(panel.select(other), qPrintable(panel.error()));
+    QCOMPARE(panel.windowTitle(), "Brixola Press Desk - " + other);
     QVERIFY(panel.shownTabs().contains("Basic"));
 }
 

@@ -11,11 +11,22 @@ void PrinterTable::focusInEvent(QFocusEvent *event)
     viewport()->update();
 }
 
+void PrinterTable::keyPressEvent(QKeyEvent *event)
+{
+    QTableWidget::keyPressEvent(event);
+    dropStaleSelection();
+}
+
 void PrinterTable::mousePressEvent(QMouseEvent *event)
 {
     QTableWidget::mousePressEvent(event);
-    // The click may have found its printer gone: then the table was rebuilt meanwhile, and what is
-    // at that place now must not be shown as selected.
+    dropStaleSelection();
+}
+
+void PrinterTable::dropStaleSelection()
+{
+    // The printer may have been found gone or without a PPD: then no row is current any more, the
+    // table may have been rebuilt, and what is at that place now must not be shown as selected.
     if (!currentIndex().isValid())
         clearSelection();
 }
