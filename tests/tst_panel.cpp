@@ -23,17 +23,19 @@ constexpr char rootWarning[] = "lblRootWarning";
 
 const QString printer = "Office_C3";
 
-/// Values of the page "Basic" from "size A5, tray Tray 1".
-Values basicValues(const QString &text)
+/// The named values of the page "Basic", with the widgets that offer them.
+Values basicValues(const QString &names)
 {
-    const QHash<QString, QString> widgets{{"size", pageSize},
-                                          {"media", mediaType},
-                                          {"tray", source},
-                                          {"bin", destination},
-                                          {"sides", duplex}};
+    const QHash<QString, QString> widgets{
+        {"A3", pageSize},          {"A4", pageSize},        {"A6", pageSize},
+        {"Envelope DL", pageSize}, {"Labels", mediaType},   {"Plain paper", mediaType},
+        {"Automatic", source},     {"Tray 1", source},      {"Tray 2", source},
+        {"Tray 3", source},        {"Bypass tray", source}, {"Finisher tray", destination},
+        {"Off", duplex},           {"Long edge", duplex},   {"Short edge", duplex},
+    };
     Values values;
-    for (const QString &value : text.split(", ", Qt::SkipEmptyParts))
-        values.append({widgets.value(value.section(' ', 0, 0)), value.section(' ', 1)});
+    for (const QString &name : names.split(", ", Qt::SkipEmptyParts))
+        values.append({widgets.value(name), name});
     return values;
 }
 
@@ -230,13 +232,13 @@ void TestPanel::installedOptionChanged()
 void TestPanel::valuesThatExcludeEachOther_data()
 {
     addRows({"chosen", "shown", "grey", "free"}, R"(
-hardware that is not there         |                                      | tray Automatic                        | tray Tray 3, bin Finisher tray                            | tray Tray 1, size A3, size A6, sides Long edge
-a tray greys sizes                 | tray Tray 1                          | tray Tray 1, size A4                  | size A3, size A6, size Envelope DL, media Labels          | tray Tray 2
-a tray moves the size              | size A6, tray Tray 1                 | tray Tray 1, size A4                  | size A3, size A6                                          | tray Tray 2
-a size ranks below the tray        | size A6                              | size A6, tray Automatic               | media Labels                                              | tray Tray 1, sides Long edge
-media move the sheet to one side   | sides Long edge, media Labels        | media Labels, sides Off               | sides Long edge, sides Short edge, size A6                | size A3
-size and tray together move it too | sides Short edge, tray Bypass tray, size A6 | size A6, tray Bypass tray, sides Off | sides Long edge, sides Short edge                   | size A4
-two moves after one another        | tray Bypass tray, size A6, tray Tray 1 | tray Tray 1, size A4, sides Off     | size A6                                                   | sides Long edge, sides Short edge, media Plain paper
+hardware that is not there         |                             | Automatic            | Tray 3, Finisher tray       | Tray 1, A3, A6, Long edge
+a tray greys sizes                 | Tray 1                      | Tray 1, A4           | A3, A6, Envelope DL, Labels | Tray 2
+a tray moves the size              | A6, Tray 1                  | Tray 1, A4           | A3, A6                      | Tray 2
+a size ranks below the tray        | A6                          | A6, Automatic        | Labels                      | Tray 1, Long edge
+media move the sheet to one side   | Long edge, Labels           | Labels, Off          | Long edge, Short edge, A6   | A3
+size and tray together move it too | Short edge, Bypass tray, A6 | A6, Bypass tray, Off | Long edge, Short edge       | A4
+two moves after one another        | Bypass tray, A6, Tray 1     | Tray 1, A4, Off      | A6                          | Long edge, Short edge, Plain paper
 )");
 }
 

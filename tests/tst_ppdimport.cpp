@@ -72,6 +72,12 @@ QString nameOf(const OptionRef &value)
     return value.option->key() + '=' + value.choice->key();
 }
 
+/// As addRows(), for long rows: a line that begins with blanks continues the one before.
+void addLongRows(std::initializer_list<const char *> columns, const char *table)
+{
+    addRows(columns, qPrintable(QString(table).replace(QRegularExpression("\n +"), " ")));
+}
+
 /// Options that most of the rules name.
 const QString media =
     "MediaType: Plain Transparency Label; PageSize: A4 A5; InputSlot: Auto Tray1;";
@@ -195,21 +201,36 @@ void TestPpdImport::abilities()
 void TestPpdImport::pairRules_data()
 {
     // What the value excludes, sorted.
-    addRows({"ppd", "value", "excluded"}, R"(
-a rule written twice, and both ways, is one | *MediaType Label *PageSize A5; *PageSize A5 *MediaType Label; *MediaType Label *PageSize A5 | MediaType=Label | PageSize=A5
-unknown options and values make no rule | *MediaType Label *Nothing A5; *MediaType Label *MediaType Velvet; *MediaType *PageSize | MediaType=Label |
-collation and storage have rules of their own | Coll: True False; BXCollate1: None Proof; *Coll False *BXCollate1 Proof; *BXCollate1 Proof *Coll False | BXCollate1=Proof |
-a fold mode has the conflicts of its fold | FldA: None Bifold Trifold; *FldA Bifold *MediaType Label; *FldA Trifold *PageSize A5 | cBiFld=True | MediaType=Label cTriFld=True
-a punch mode has what all punches share | Pnch: None Two Three; *Pnch Two *MediaType Label; *Pnch Two *PageSize A5; *Pnch Three *MediaType Label; *Pnch None *PageSize A4 | cHole=True | MediaType=Label
-with nothing in common the last style counts | Stpl: None One Two Three; *Stpl One *MediaType Label; *Stpl Two *PageSize A5; *Stpl Three *PageSize A4 | cStpl=True | PageSize=A4
-a mode without styles has no conflicts | Pnch: None | cHole=True |
-cover mode off | CvrM: None Front | cCovBut=False | cCovPOBI=True cCovPOBO=True cCovPOFI=True cCovPOFO=True
-interleaving takes transparencies alone | CvrM: None Front | cIntBut=True | FKPToggle=On MediaType=Label MediaType=Plain cCovBut=True cInsBut=True
-no sorting, no sets | Coll: True False; CvrM: None Front; BXCollate1: None Proof; BXSuperWatermark: None All | Coll=False | cCovBut=True cInsBut=True cIntBut=True cJobStore=True cSuper=True
-no storage, no sets that need it | Coll: True False; Option18: None Disk; Option8: Off On; *Coll False *Option8 On; CvrM: None Front; BXCollate1: None Proof; SupportsPrivatePrint=True; SupportsCustomBox=True | Option18=None | BXCollate1=Proof cCovBut=True cCustomBox=True cInsBut=True cIntBut=True cJobStore=True cPrivatePrint=True
-forced duplex has conflicts of duplex, the lower ranks | Duplex: None DuplexTumble DuplexNoTumble; OutputBin: Top Side; *Duplex DuplexTumble *OutputBin Side; *Duplex DuplexNoTumble *PageSize A5 | FKPDuplex=On | Duplex=None FKPToggle=Off OutputBin=Side
-policy | ColorModel: CMYK RGB Gray | FKPColorMode=On | ColorModel=CMYK ColorModel=RGB FKPToggle=Off
-coloured watermarks need colour | ColorModel: CMYK Gray; Wclr: Black Red Green Blue | ColorModel=Gray | Wclr=Blue Wclr=Green Wclr=Red
+    addLongRows({"value", "excluded", "ppd"}, R"(
+a rule written twice, and both ways, is one | MediaType=Label | PageSize=A5
+  | *MediaType Label *PageSize A5; *PageSize A5 *MediaType Label; *MediaType Label *PageSize A5
+unknown options and values make no rule | MediaType=Label |
+  | *MediaType Label *Nothing A5; *MediaType Label *MediaType Velvet; *MediaType *PageSize
+collation and storage have rules of their own | BXCollate1=Proof |
+  | Coll: True False; BXCollate1: None Proof; *Coll False *BXCollate1 Proof; *BXCollate1 Proof *Coll False
+a fold mode has the conflicts of its fold | cBiFld=True | MediaType=Label cTriFld=True
+  | FldA: None Bifold Trifold; *FldA Bifold *MediaType Label; *FldA Trifold *PageSize A5
+a punch mode has what all punches share | cHole=True | MediaType=Label
+  | Pnch: None Two Three; *Pnch Two *MediaType Label; *Pnch Two *PageSize A5; *Pnch Three *MediaType Label;
+    *Pnch None *PageSize A4
+with nothing in common the last style counts | cStpl=True | PageSize=A4
+  | Stpl: None One Two Three; *Stpl One *MediaType Label; *Stpl Two *PageSize A5; *Stpl Three *PageSize A4
+a mode without styles has no conflicts | cHole=True | | Pnch: None
+cover mode off | cCovBut=False | cCovPOBI=True cCovPOBO=True cCovPOFI=True cCovPOFO=True | CvrM: None Front
+interleaving takes transparencies alone | cIntBut=True | FKPToggle=On MediaType=Label MediaType=Plain cCovBut=True cInsBut=True
+  | CvrM: None Front
+no sorting, no sets | Coll=False | cCovBut=True cInsBut=True cIntBut=True cJobStore=True cSuper=True
+  | Coll: True False; CvrM: None Front; BXCollate1: None Proof; BXSuperWatermark: None All
+no storage, no sets that need it | Option18=None
+  | BXCollate1=Proof cCovBut=True cCustomBox=True cInsBut=True cIntBut=True cJobStore=True cPrivatePrint=True
+  | Coll: True False; Option18: None Disk; Option8: Off On; *Coll False *Option8 On; CvrM: None Front;
+    BXCollate1: None Proof; SupportsPrivatePrint=True; SupportsCustomBox=True
+forced duplex has conflicts of duplex, the lower ranks | FKPDuplex=On | Duplex=None FKPToggle=Off OutputBin=Side
+  | Duplex: None DuplexTumble DuplexNoTumble; OutputBin: Top Side; *Duplex DuplexTumble *OutputBin Side;
+    *Duplex DuplexNoTumble *PageSize A5
+policy | FKPColorMode=On | ColorModel=CMYK ColorModel=RGB FKPToggle=Off | ColorModel: CMYK RGB Gray
+coloured watermarks need colour | ColorModel=Gray | Wclr=Blue Wclr=Green Wclr=Red
+  | ColorModel: CMYK Gray; Wclr: Black Red Green Blue
 )");
 }
 
@@ -228,18 +249,27 @@ void TestPpdImport::pairRules()
 void TestPpdImport::groupRules_data()
 {
     // The rules of the value in their order, as it is walked.
-    addRows({"ppd", "value", "rules"}, R"(
-sorted by rank, the lowest last | Stpl: None Top; *Stpl Top *PageSize A4 *InputSlot Tray1 | PageSize=A4 | InputSlot=Tray1>PageSize=A4>cStpl=True
-any staple style, even none | Stpl: None Top; *Stpl None *PageSize A4 *InputSlot Tray1 | cStpl=True | InputSlot=Tray1>PageSize=A4>cStpl=True
-any punch style | Pnch: None Two; *Pnch Two *PageSize A4 *InputSlot Tray1 | cHole=True | InputSlot=Tray1>PageSize=A4>cHole=True
-folds by their choice alone | FldA: None Bifold Trifold; *FldB Bifold *PageSize A4 *InputSlot Tray1 | cBiFld=True | InputSlot=Tray1>PageSize=A4>cBiFld=True
-an unknown value drops the rule | Stpl: None Top; *Stpl Top *PageSize A3 *InputSlot Tray1 | cStpl=True |
-two values make no rule | cupsUIConstraints=*PageSize A4 *InputSlot Tray1 | PageSize=A4 |
-rubbish | Stpl: None Top; Stpl Top ** PageSize | PageSize=A4 |
-the same rule twice is one | Stpl: None Top; *Stpl Top *PageSize A4 *InputSlot Tray1; *InputSlot Tray1 *PageSize A4 *Stpl Other | InputSlot=Tray1 | InputSlot=Tray1>PageSize=A4>cStpl=True
-options without a rank | X: 0 1; Y: 0 1; Z: 0 1; *X 1 *Y 1 *Z 1 | Z=1 | X=1>Y=1>Z=1>Y=1>X=1>Z=1>Z=1>X=1>Y=1
-ranks rising to the left | Duplex: None Tumble; *Duplex Tumble *InputSlot Tray1 *PageSize A4 | Duplex=Tumble | InputSlot=Tray1>PageSize=A4>Duplex=Tumble>PageSize=A4>InputSlot=Tray1>Duplex=Tumble
-booklets and short paper, unstapled | Stpl: None Top; BXBooklet: None Left Right; Option22: False True | cStpl=True | Option22=False>BXBooklet=Left>cStpl=True Option22=False>BXBooklet=Right>cStpl=True PageSize=A5>BXBooklet=None>cStpl=True
+    addLongRows({"value", "rules", "ppd"}, R"(
+sorted by rank, the lowest last | PageSize=A4 | InputSlot=Tray1>PageSize=A4>cStpl=True
+  | Stpl: None Top; *Stpl Top *PageSize A4 *InputSlot Tray1
+any staple style, even none | cStpl=True | InputSlot=Tray1>PageSize=A4>cStpl=True
+  | Stpl: None Top; *Stpl None *PageSize A4 *InputSlot Tray1
+any punch style | cHole=True | InputSlot=Tray1>PageSize=A4>cHole=True
+  | Pnch: None Two; *Pnch Two *PageSize A4 *InputSlot Tray1
+folds by their choice alone | cBiFld=True | InputSlot=Tray1>PageSize=A4>cBiFld=True
+  | FldA: None Bifold Trifold; *FldB Bifold *PageSize A4 *InputSlot Tray1
+an unknown value drops the rule | cStpl=True | | Stpl: None Top; *Stpl Top *PageSize A3 *InputSlot Tray1
+two values make no rule | PageSize=A4 | | cupsUIConstraints=*PageSize A4 *InputSlot Tray1
+rubbish | PageSize=A4 | | Stpl: None Top; Stpl Top ** PageSize
+the same rule twice is one | InputSlot=Tray1 | InputSlot=Tray1>PageSize=A4>cStpl=True
+  | Stpl: None Top; *Stpl Top *PageSize A4 *InputSlot Tray1; *InputSlot Tray1 *PageSize A4 *Stpl Other
+options without a rank | Z=1 | X=1>Y=1>Z=1>Y=1>X=1>Z=1>Z=1>X=1>Y=1 | X: 0 1; Y: 0 1; Z: 0 1; *X 1 *Y 1 *Z 1
+ranks rising to the left | Duplex=Tumble | InputSlot=Tray1>PageSize=A4>Duplex=Tumble>PageSize=A4>InputSlot=Tray1>Duplex=Tumble
+  | Duplex: None Tumble; *Duplex Tumble *InputSlot Tray1 *PageSize A4
+booklets and short paper, unstapled | cStpl=True
+  | Option22=False>BXBooklet=Left>cStpl=True Option22=False>BXBooklet=Right>cStpl=True
+    PageSize=A5>BXBooklet=None>cStpl=True
+  | Stpl: None Top; BXBooklet: None Left Right; Option22: False True
 )");
 }
 

@@ -119,9 +119,13 @@ no maker                    | *Manufacturer: "Brixola"     |                    
 device of another maker     | *1284DeviceID: "MFG:Brixola; | *1284DeviceID: "MFG:Other;   | 0
 no device                   | *1284DeviceID: "MFG:Brixola; | *NoDeviceID: "MFG:Brixola;   | 0
 short name in the device    | *1284DeviceID: "MFG:Brixola; | *1284DeviceID: "MFG:Brix;    | 1
-no filter                   | *cupsFilter: "application/vnd.cups-postscript 0 bixfilter_F" | | 0
-three of four filters       | *cupsFilter: "application/vnd.cups-postscript 0 bixfilter_F" | *cupsFilter: "image/png 0 /opt/x/bixfilter_F.2"; *cupsFilter: "image/jpeg 0 otherfilter"; *cupsFilter: "image/gif 0 bixfilter_ras_F"; *cupsFilter: "image/tiff 0 bixfilter_pdf_F" | 3
+no filter                   | *cupsFilter:                 | *NoFilter:                   | 0
 )");
+    addRow("three of four filters", QString("*cupsFilter:"),
+           QString("*cupsFilter: \"image/png 0 otherfilter\"; "
+                   "*cupsFilter: \"image/gif 0 /opt/x/bixfilter_ras_F.2\"; "
+                   "*cupsFilter: \"image/tiff 0 bixfilter_pdf_F\"; *cupsFilter:"),
+           QString("3"));
 }
 
 void TestPrintSystem::rowsByPpd()
