@@ -173,18 +173,18 @@ void TestHostile::queueName()
     Panel panel;
     const bool started = panel.start();
     QVERIFY(QDir::setCurrent(outer));
-    QVERIFY2(started, qPrintable(panel.error()));
+    QVERIFY(started);
     QCOMPARE(filesBelow(folder.path()), Files());
     const QVector<QStringList> rows = panel.table("tblPrinters").rows;
     QCOMPARE(rows.size(), 2);
     QVERIFY(rows.contains({hostile, "file:///dev/null", complaint.isEmpty() ? "Idle" : ""}));
 
-    QVERIFY2(panel.select(hostile), qPrintable(panel.error()));
+    QVERIFY(panel.select(hostile));
     QCOMPARE(panel.message(), noMessage);
-    QVERIFY2(applyPaper(&panel, "A5"), qPrintable(panel.error()));
+    QVERIFY(applyPaper(&panel, "A5"));
     QCOMPARE(filesBelow(folder.path()), Files());
     QCOMPARE(panel.message(), applied);
-    QVERIFY2(panel.answer(), qPrintable(panel.error()));
+    QVERIFY(panel.answer());
 
     QVERIFY(savedLines(hostile).contains("PageSize=A5"));
     QCOMPARE(userFiles(hostile + ".cfg"), files);
@@ -199,10 +199,9 @@ void TestHostile::queueNameIsNoText()
     // Nobody can name it, so it can't have a row.
     QVERIFY2(server->addQueueByRequest("caf\xe9", monoPpd), qPrintable(server->error()));
     Panel panel;
-    QVERIFY2(panel.start(), qPrintable(panel.error()));
+    QVERIFY(panel.start());
     QCOMPARE(panel.rowsOf(0), QStringList(printer));
-    QVERIFY2(panel.select(printer) && panel.clickTab("Basic") && panel.apply(),
-             qPrintable(panel.error()));
+    QVERIFY(panel.select(printer) && panel.clickTab("Basic") && panel.apply());
     QCOMPARE(panel.message(), applied);
 
     // Qt can't name the scheduler's files of that queue, and so not remove them.
@@ -228,13 +227,13 @@ void TestHostile::schedulerStops()
     QFETCH(QStringList, message);
     QFETCH(QStringList, whenBack);
     Panel panel;
-    QVERIFY2(startOnBasic(&panel), qPrintable(panel.error()));
+    QVERIFY(startOnBasic(&panel));
     const Files files = userFiles();
 
     QVERIFY2(server->stop(), qPrintable(server->error()));
-    QVERIFY2(atApply ? panel.apply() : panel.choose(pageSize, "A5"), qPrintable(panel.error()));
+    QVERIFY(atApply ? panel.apply() : panel.choose(pageSize, "A5"));
     QCOMPARE(panel.message(), message);
-    QVERIFY2(panel.answer(), qPrintable(panel.error()));
+    QVERIFY(panel.answer());
     QCOMPARE(panel.message(), noMessage);
     QCOMPARE(panel.rowsOf(0), QStringList());
     QVERIFY(panel.tabs().value(0).current);
@@ -242,9 +241,9 @@ void TestHostile::schedulerStops()
 
     QVERIFY2(server->start() && panel.apply(), qPrintable(server->error() + panel.error()));
     QCOMPARE(panel.message(), whenBack);
-    QVERIFY2(panel.answer(), qPrintable(panel.error()));
+    QVERIFY(panel.answer());
     QCOMPARE(panel.rowsOf(2), QStringList("Idle"));
-    QVERIFY2(panel.select(printer) && applyPaper(&panel, "A3"), qPrintable(panel.error()));
+    QVERIFY(panel.select(printer) && applyPaper(&panel, "A3"));
     QCOMPARE(panel.message(), applied);
     QVERIFY(publishedOptions(printer).contains("PageSize=A3"));
 }
@@ -254,7 +253,7 @@ void TestHostile::schedulerStalls()
     const QString other = "Warehouse_M1";
     QVERIFY2(server->addQueue(other, monoPpd), qPrintable(server->error()));
     Panel panel;
-    QVERIFY2(panel.startWith(printer), qPrintable(panel.error()));
+    QVERIFY(panel.startWith(printer));
     const std::function<bool()> actions[] = {
         [&] { return panel.select(other); },
         [&] { return panel.clickTab("Basic") && panel.choose(pageSize, "A5"); },
@@ -267,7 +266,7 @@ void TestHostile::schedulerStalls()
         QElapsedTimer clock;
         clock.start();
         QVERIFY(QProcess::startDetached("sh", {"-c", "sleep 1.5; kill -CONT " + process}));
-        QVERIFY2(action(), qPrintable(panel.error()));
+        QVERIFY(action());
         QVERIFY(clock.elapsed() >= 1500); // it was needed, and waited for
     }
     QCOMPARE(panel.message(), applied);
@@ -289,14 +288,14 @@ void TestHostile::lpoptionsHangs()
     QVERIFY(setFileText(cfgFile(printer), "PageSize=A4\n")); // so that it is no first contact
     Panel panel;
     commands.giveTo(&panel);
-    QVERIFY2(startOnBasic(&panel) && panel.choose(pageSize, "A5"), qPrintable(panel.error()));
+    QVERIFY(startOnBasic(&panel) && panel.choose(pageSize, "A5"));
 
     QElapsedTimer clock;
     clock.start();
-    QVERIFY2(panel.apply(), qPrintable(panel.error()));
+    QVERIFY(panel.apply());
     QVERIFY(clock.elapsed() >= 30000); // it may be slow, and is given that time
     QCOMPARE(panel.message(), notPublished);
-    QVERIFY2(panel.answer(), qPrintable(panel.error()));
+    QVERIFY(panel.answer());
     const int pid = fileText(process).trimmed().toInt();
     QVERIFY(pid > 0);
     QVERIFY(kill(pid, 0) != 0); // not left behind
@@ -305,7 +304,7 @@ void TestHostile::lpoptionsHangs()
 
     // It goes on with the same printer, as soon as the command is well.
     QVERIFY(commands.replace("lpoptions", "exec /usr/bin/lpoptions \"$@\""));
-    QVERIFY2(panel.clickTab("Basic") && panel.apply(), qPrintable(panel.error()));
+    QVERIFY(panel.clickTab("Basic") && panel.apply());
     QCOMPARE(panel.message(), applied);
     QVERIFY(publishedOptions(printer).contains("PageSize=A5"));
 }
@@ -336,17 +335,16 @@ void TestHostile::brokenCommand()
     const bool canPublish = command != "lpoptions" || !script.isEmpty();
     Panel panel;
     commands.giveTo(&panel);
-    QVERIFY2(panel.startWith(printer), qPrintable(panel.error()));
+    QVERIFY(panel.startWith(printer));
     QCOMPARE(panel.message(), canPublish ? noMessage : notPublished); // at first contact
-    QVERIFY2(canPublish || panel.answer(), qPrintable(panel.error()));
+    QVERIFY(canPublish || panel.answer());
     QVERIFY(savedLines(printer).contains("PageSize=A4"));
-    QVERIFY2(panel.clickTab("Basic") && panel.choose(pageSize, "A5") && panel.ok(),
-             qPrintable(panel.error()));
+    QVERIFY(panel.clickTab("Basic") && panel.choose(pageSize, "A5") && panel.ok());
     QCOMPARE(panel.message(), canPublish ? applied : notPublished);
     QCOMPARE(panel.rowsOf(2), QStringList(command == "lpstat" ? "" : "Idle"));
     QVERIFY(savedLines(printer).contains("PageSize=A5"));
     QCOMPARE(publishedOptions(printer).contains("PageSize=A5"), command != "lpoptions");
-    QVERIFY2(panel.answer() && panel.waitForEnd(), qPrintable(panel.error()));
+    QVERIFY(panel.answer() && panel.waitForEnd());
     QCOMPARE(panel.exitStatus(), 0);
 }
 
@@ -378,12 +376,12 @@ void TestHostile::folderOfSettings()
         QFile::setPermissions(userFolder().path(), QFile::ReadOwner | QFile::ExeOwner);
 
     Panel panel;
-    QVERIFY2(panel.startWith(printer), qPrintable(panel.error()));
+    QVERIFY(panel.startWith(printer));
     QCOMPARE(panel.message(), noMessage);
-    QVERIFY2(applyPaper(&panel, "A5"), qPrintable(panel.error()));
+    QVERIFY(applyPaper(&panel, "A5"));
     QCOMPARE(panel.message(), applied);
     QVERIFY(publishedOptions(printer).contains("PageSize=A5"));
-    QVERIFY2(panel.answer() && panel.cancel() && startOnBasic(&panel), qPrintable(panel.error()));
+    QVERIFY(panel.answer() && panel.cancel() && startOnBasic(&panel));
     QTEST(panel.currentText(pageSize), "atNextStart");
 
     QCOMPARE(userFiles(ownFile), others);
@@ -404,7 +402,7 @@ void TestHostile::neitherUserNorHome()
     panel.unsetEnvironment("HOME");
     // Fontconfig complains without a home when the machine's own font cache is out of date.
     panel.setEnvironment("XDG_CACHE_HOME", QDir::tempPath());
-    QVERIFY2(panel.startWith(printer) && applyPaper(&panel, "A5"), qPrintable(panel.error()));
+    QVERIFY(panel.startWith(printer) && applyPaper(&panel, "A5"));
     QCOMPARE(panel.message(), applied);
     QVERIFY(fileText(systemFolder + ownFile).contains("PageSize=A5\n"));
     QCOMPARE(filesBelow(systemFolder, ownFile), files);

@@ -76,24 +76,23 @@ void TestOptionPages::initTestCase()
 void TestOptionPages::foldsExcludeEachOther()
 {
     PagePanel panel;
-    QVERIFY2(panel.open("Finishing") && panel.click(triFold), qPrintable(panel.error()));
+    QVERIFY(panel.open("Finishing") && panel.click(triFold));
     QCOMPARE(panel.look(triFold) + ", " + panel.look(biFold), QString("on, off grey"));
-    QVERIFY2(panel.click(triFold) && panel.click(biFold), qPrintable(panel.error()));
+    QVERIFY(panel.click(triFold) && panel.click(biFold));
     QCOMPARE(panel.look(triFold) + ", " + panel.look(biFold), QString("off grey, on"));
-    QVERIFY2(panel.applyAndAnswer(), qPrintable(panel.error()));
+    QVERIFY(panel.applyAndAnswer());
     QVERIFY(savedLines(colorPrinter).contains("FldA=Bifold"));
 }
 
 void TestOptionPages::transparenciesAreNotStapled()
 {
     PagePanel panel;
-    QVERIFY2(panel.open("Finishing") && panel.click(staple), qPrintable(panel.error()));
+    QVERIFY(panel.open("Finishing") && panel.click(staple));
     QCOMPARE(panel.look(staple), QString("on"));
-    QVERIFY2(panel.clickTab("Basic") && panel.choose("cmbBxMediaType", "Transparency") &&
-                 panel.clickTab("Finishing"),
-             qPrintable(panel.error()));
+    QVERIFY(panel.clickTab("Basic") && panel.choose("cmbBxMediaType", "Transparency") &&
+            panel.clickTab("Finishing"));
     QCOMPARE(panel.look(staple), QString("off grey"));
-    QVERIFY2(panel.applyAndAnswer(), qPrintable(panel.error()));
+    QVERIFY(panel.applyAndAnswer());
     QVERIFY(savedLines(colorPrinter).contains("Stpl=None"));
 }
 
@@ -102,30 +101,26 @@ void TestOptionPages::imagingSurvivesRestartAndLosesAdjustmentInBlack()
     const PanelWidget custom = PanelWidget::button("Custom");
     const QStringList lines{"Lnpr=Level5", "Cadj=True", "fCast=1.25"};
     PagePanel panel;
-    QVERIFY2(panel.open("Imaging") && panel.clickGroupButton(leanPrint, 1) &&
-                 panel.choose(levels, "Level 5") && panel.click(adjustment) &&
-                 panel.click(custom) && panel.enter("Saturation", "1.25") && panel.ok() &&
-                 panel.applyAndAnswer(),
-             qPrintable(panel.error()));
+    QVERIFY(panel.open("Imaging") && panel.clickGroupButton(leanPrint, 1) &&
+            panel.choose(levels, "Level 5") && panel.click(adjustment) && panel.click(custom) &&
+            panel.enter("Saturation", "1.25") && panel.ok() && panel.applyAndAnswer());
     QCOMPARE(missing(lines, savedLines(colorPrinter)), QStringList());
-    QVERIFY2(panel.open("Imaging"), qPrintable(panel.error()));
+    QVERIFY(panel.open("Imaging"));
     QCOMPARE(panel.currentText(leanPrint) + ", " + panel.currentText(levels),
              QString("On, Level 5"));
-    QVERIFY2(panel.applyAndAnswer() && panel.click(adjustment), qPrintable(panel.error()));
+    QVERIFY(panel.applyAndAnswer() && panel.click(adjustment));
     QCOMPARE(missing(lines, savedLines(colorPrinter)), QStringList());
     QVERIFY(panel.isChecked(custom));
     QCOMPARE(panel.text("Saturation"), QString("1.25"));
 
-    QVERIFY2(panel.cancel() && panel.clickTab("Basic") &&
-                 panel.clickGroupButton("butGroupColorModelGeneral", 1) &&
-                 panel.clickTab("Imaging") && panel.click(adjustment),
-             qPrintable(panel.error()));
+    QVERIFY(panel.cancel() && panel.clickTab("Basic") &&
+            panel.clickGroupButton("butGroupColorModelGeneral", 1) && panel.clickTab("Imaging") &&
+            panel.click(adjustment));
     // The page's own group has moved along: its button leads to the dialog for black.
     QVERIFY(!panel.isShown("Saturation"));
-    QVERIFY2(panel.cancel() && panel.clickTab("Basic") &&
-                 panel.clickGroupButton("butGroupColorModelGeneral", 0) &&
-                 panel.clickTab("Imaging") && panel.click(adjustment),
-             qPrintable(panel.error()));
+    QVERIFY(panel.cancel() && panel.clickTab("Basic") &&
+            panel.clickGroupButton("butGroupColorModelGeneral", 0) && panel.clickTab("Imaging") &&
+            panel.click(adjustment));
     QVERIFY(!panel.isChecked(custom));
     QCOMPARE(panel.text("Saturation"), QString("0"));
 }
@@ -133,7 +128,7 @@ void TestOptionPages::imagingSurvivesRestartAndLosesAdjustmentInBlack()
 void TestOptionPages::rasterPrinterHasNoAdjustment()
 {
     PagePanel panel;
-    QVERIFY2(panel.startWith(rasterPrinter) && panel.applyAndAnswer(), qPrintable(panel.error()));
+    QVERIFY(panel.startWith(rasterPrinter) && panel.applyAndAnswer());
     const QStringList lines = savedLines(rasterPrinter);
     QVERIFY(lines.contains("PageSize=A4"));
     QCOMPARE(lines.filter(QRegularExpression("^f?(Ca|Mact|Malt|Madj)")), QStringList());
@@ -143,20 +138,18 @@ void TestOptionPages::privatePrintNeedsItsCode()
 {
     const PanelWidget apply = Panel::standardButton("Apply");
     PagePanel panel;
-    QVERIFY2(panel.open("Job") && panel.click("chkButBXCollate1") &&
-                 panel.choose(storage, "Private print"),
-             qPrintable(panel.error()));
+    QVERIFY(panel.open("Job") && panel.click("chkButBXCollate1") &&
+            panel.choose(storage, "Private print"));
     QVERIFY(!panel.isEnabled(apply));
-    QVERIFY2(panel.enter(code, "1234"), qPrintable(panel.error()));
+    QVERIFY(panel.enter(code, "1234"));
     QVERIFY(panel.isEnabled(apply));
-    QVERIFY2(panel.applyAndAnswer(), qPrintable(panel.error()));
+    QVERIFY(panel.applyAndAnswer());
     const QByteArray saved = fileText(cfgFile(colorPrinter));
     QVERIFY(!saved.isEmpty() && !saved.contains("1234"));
-    QVERIFY2(panel.open("Job"), qPrintable(panel.error()));
+    QVERIFY(panel.open("Job"));
     QCOMPARE(panel.currentText(storage) + ", " + panel.text(code), QString("Private print, 1234"));
-    QVERIFY2(panel.clickTab("Printer") && panel.choose("cmbBxOption18", "Not installed") &&
-                 panel.clickTab("Job"),
-             qPrintable(panel.error()));
+    QVERIFY(panel.clickTab("Printer") && panel.choose("cmbBxOption18", "Not installed") &&
+            panel.clickTab("Job"));
     const QStringList kinds = panel.items(storage);
     QVERIFY(!kinds.contains("Private print") && !kinds.contains("Custom box"));
 }
@@ -164,26 +157,24 @@ void TestOptionPages::privatePrintNeedsItsCode()
 void TestOptionPages::pagesToInsert()
 {
     PagePanel panel;
-    QVERIFY2(panel.open("Publishing") && panel.click("chkButPins") &&
-                 panel.enter("lnEditPinsPage", "2,5-7,3"),
-             qPrintable(panel.error()));
+    QVERIFY(panel.open("Publishing") && panel.click("chkButPins") &&
+            panel.enter("lnEditPinsPage", "2,5-7,3"));
     QCOMPARE(panel.look("chkButTint"), QString("off grey"));
-    QVERIFY2(panel.applyAndAnswer(), qPrintable(panel.error()));
+    QVERIFY(panel.applyAndAnswer());
     QVERIFY(savedLines(colorPrinter).contains("BqPageinsertNums=2,3,5,6,7"));
 }
 
 void TestOptionPages::customWatermarkArrivesWhole()
 {
     PagePanel panel;
-    QVERIFY2(panel.open("Watermark") && panel.click("chkButWatermark") &&
-                 panel.enter("lnEditCustomWatermark", "Top secret") &&
-                 panel.click(PanelWidget::button("New")),
-             qPrintable(panel.error()));
+    QVERIFY(panel.open("Watermark") && panel.click("chkButWatermark") &&
+            panel.enter("lnEditCustomWatermark", "Top secret") &&
+            panel.click(PanelWidget::button("New")));
     QCOMPARE(panel.currentText(watermark), QString("Top secret"));
-    QVERIFY2(panel.applyAndAnswer(), qPrintable(panel.error()));
+    QVERIFY(panel.applyAndAnswer());
     QVERIFY(savedLines(colorPrinter).contains("Wtxt=\"Top\\ secret\""));
     QVERIFY(fileText(lpoptionsFile()).contains("Wtxt=\"Top secret\""));
-    QVERIFY2(panel.open("Watermark"), qPrintable(panel.error()));
+    QVERIFY(panel.open("Watermark"));
     QCOMPARE(panel.currentText(watermark), QString("Top secret"));
 }
 

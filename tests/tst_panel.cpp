@@ -101,7 +101,7 @@ void TestPanel::queuesWithARow()
     QCOMPARE(QProcess::execute("/usr/sbin/cupsdisable", {"Warehouse_M1"}), 0);
 
     Panel panel;
-    QVERIFY2(panel.start(), qPrintable(panel.error()));
+    QVERIFY(panel.start());
     const PanelTable table = panel.table(printers);
     QCOMPARE(table.headers, QStringList({"Printers", "Destination", "Status"}));
     QStringList rows;
@@ -117,10 +117,9 @@ void TestPanel::queuesWithARow()
 void TestPanel::startSelectsNothing()
 {
     Panel panel;
-    QVERIFY2(panel.start() && panel.activateWindow(PanelWidget::ofClass("BixDialog")),
-             qPrintable(panel.error()));
+    QVERIFY(panel.start() && panel.activateWindow(PanelWidget::ofClass("BixDialog")));
     for (const char *strayKey : {"Tab", "Return", "Space", "Down"})
-        QVERIFY2(panel.press(strayKey), qPrintable(panel.error()));
+        QVERIFY(panel.press(strayKey));
 
     QVERIFY(panel.isRunning());
     QVERIFY(!panel.hasSelection());
@@ -136,7 +135,7 @@ void TestPanel::startSelectsNothing()
 void TestPanel::firstContact()
 {
     Panel panel;
-    QVERIFY2(panel.startWith(printer), qPrintable(panel.error()));
+    QVERIFY(panel.startWith(printer));
 
     // The printer's defaults are published before any button is pressed.
     QCOMPARE(panel.windowTitle(), "Brixola Press Desk - " + printer);
@@ -148,21 +147,18 @@ void TestPanel::firstContact()
     // Another click on the selected printer neither publishes again nor drops what was changed.
     QVERIFY(setFileText(cfgFile(printer), "Untouched=1\n"));
     QVERIFY(QFile::remove(lpoptionsFile()));
-    QVERIFY2(panel.clickTab("Basic") && panel.choose(pageSize, "A5") &&
-                 panel.choose(source, "Tray 1") && panel.clickTab("Printer") &&
-                 panel.select(printer) && panel.clickRow(printers, 2, 2),
-             qPrintable(panel.error()));
+    QVERIFY(panel.clickTab("Basic") && panel.choose(pageSize, "A5") &&
+            panel.choose(source, "Tray 1") && panel.clickTab("Printer") && panel.select(printer) &&
+            panel.clickRow(printers, 2, 2));
     QCOMPARE(panel.table(printers).currentRow, 2);
     QCOMPARE(fileText(cfgFile(printer)), QByteArray("Untouched=1\n"));
     QVERIFY(!QFile::exists(lpoptionsFile()));
     QCOMPARE(panel.currentText(pageSize), QString("A5"));
-    QVERIFY2(panel.clickTab("Basic") && panel.clickGroupButton(collate, "Off"),
-             qPrintable(panel.error()));
+    QVERIFY(panel.clickTab("Basic") && panel.clickGroupButton(collate, "Off"));
     QVERIFY(!panel.canSet({pageSize, "A3"})); // the tray still tells
 
     // Neither does another printer and back, now that there is a settings file.
-    QVERIFY2(panel.clickTab("Printer") && panel.select("Warehouse_M1") && panel.select(printer),
-             qPrintable(panel.error()));
+    QVERIFY(panel.clickTab("Printer") && panel.select("Warehouse_M1") && panel.select(printer));
     QCOMPARE(fileText(cfgFile(printer)), QByteArray("Untouched=1\n"));
     QCOMPARE(panel.currentText(pageSize), QString("A4"));
 }
@@ -170,11 +166,9 @@ void TestPanel::firstContact()
 void TestPanel::changeToItsEnd()
 {
     Panel panel;
-    QVERIFY2(startOnBasic(&panel) && panel.choose(pageSize, "A5") &&
-                 panel.clickGroupButton(duplex, "Long edge") &&
-                 panel.clickGroupButton(collate, "Off") &&
-                 panel.clickGroupButton(color, "Black & white") && panel.apply(),
-             qPrintable(panel.error()));
+    QVERIFY(startOnBasic(&panel) && panel.choose(pageSize, "A5") &&
+            panel.clickGroupButton(duplex, "Long edge") && panel.clickGroupButton(collate, "Off") &&
+            panel.clickGroupButton(color, "Black & white") && panel.apply());
     QCOMPARE(panel.message(), applied);
 
     const QStringList chosen{"PageSize=A5", "PageRegion=A5", "Duplex=DuplexNoTumble", "Coll=False",
@@ -186,20 +180,19 @@ void TestPanel::changeToItsEnd()
     QCOMPARE(missing(chosen, options), QStringList());
     QCOMPARE(missing(onlySaved, options), onlySaved);
 
-    QVERIFY2(panel.answer() && panel.ok(), qPrintable(panel.error()));
+    QVERIFY(panel.answer() && panel.ok());
     QCOMPARE(panel.message(), applied);
-    QVERIFY2(panel.answer() && panel.waitForEnd(), qPrintable(panel.error()));
+    QVERIFY(panel.answer() && panel.waitForEnd());
     QCOMPARE(panel.exitStatus(), 0);
 
-    QVERIFY2(startOnBasic(&panel), qPrintable(panel.error()));
+    QVERIFY(startOnBasic(&panel));
     QCOMPARE(panel.currentText(pageSize), QString("A5"));
     QCOMPARE(panel.currentText(duplex), QString("Long edge"));
     QCOMPARE(panel.currentText(collate), QString("Off"));
     QCOMPARE(panel.currentText(color), QString("Black & white"));
 
     const QByteArray saved = fileText(cfgFile(printer)) + fileText(lpoptionsFile());
-    QVERIFY2(panel.choose(pageSize, "A4") && panel.cancel() && panel.waitForEnd(),
-             qPrintable(panel.error()));
+    QVERIFY(panel.choose(pageSize, "A4") && panel.cancel() && panel.waitForEnd());
     QCOMPARE(panel.exitStatus(), 0);
     QCOMPARE(fileText(cfgFile(printer)) + fileText(lpoptionsFile()), saved);
 }
@@ -207,23 +200,21 @@ void TestPanel::changeToItsEnd()
 void TestPanel::installedOptionChanged()
 {
     Panel panel;
-    QVERIFY2(panel.startWith(printer), qPrintable(panel.error()));
+    QVERIFY(panel.startWith(printer));
     QVERIFY(!panel.isShown(rootWarning));
     QTemporaryDir pictures;
     const QString file = pictures.filePath("warning.png");
-    QVERIFY2(panel.click("chkBxOption20") && panel.grab(rootWarning, file),
-             qPrintable(panel.error()));
+    QVERIFY(panel.click("chkBxOption20") && panel.grab(rootWarning, file));
     // Its border has the colour of the page, but for what shines through.
     const QImage picture(file);
     QVERIFY(qAbs(qGray(picture.pixel(0, 0)) - qGray(picture.pixel(2, 2))) < 32);
 
-    QVERIFY2(panel.choose("cmbBxOption21", "Tray 3") && panel.click("chkBxOption20"),
-             qPrintable(panel.error()));
+    QVERIFY(panel.choose("cmbBxOption21", "Tray 3") && panel.click("chkBxOption20"));
     QVERIFY(panel.isShown(rootWarning)); // one of two is still another
-    QVERIFY2(panel.choose("cmbBxOption21", "Not installed"), qPrintable(panel.error()));
+    QVERIFY(panel.choose("cmbBxOption21", "Not installed"));
     QVERIFY(!panel.isShown(rootWarning));
 
-    QVERIFY2(panel.click("chkBxOption20") && panel.select("Ratex_200"), qPrintable(panel.error()));
+    QVERIFY(panel.click("chkBxOption20") && panel.select("Ratex_200"));
     QVERIFY(!panel.isShown(rootWarning)); // it was the other printer's
 }
 
@@ -250,9 +241,9 @@ void TestPanel::valuesThatExcludeEachOther()
     QFETCH(QString, free);
 
     Panel panel;
-    QVERIFY2(startOnBasic(&panel), qPrintable(panel.error()));
+    QVERIFY(startOnBasic(&panel));
     for (const Value &value : basicValues(chosen))
-        QVERIFY2(panel.set(value), qPrintable(panel.error()));
+        QVERIFY(panel.set(value));
     for (const Value &value : basicValues(shown))
         QCOMPARE(panel.currentText(value.first), value.second);
     for (const Value &value : basicValues(grey))
@@ -261,10 +252,9 @@ void TestPanel::valuesThatExcludeEachOther()
         QVERIFY2(panel.canSet(value), qPrintable(value.second));
 
     // What is shown is what is saved, and nothing hinders it.
-    QVERIFY2(panel.apply(), qPrintable(panel.error()));
+    QVERIFY(panel.apply());
     QCOMPARE(panel.message(), applied);
-    QVERIFY2(panel.answer() && panel.cancel() && panel.startWith(printer),
-             qPrintable(panel.error()));
+    QVERIFY(panel.answer() && panel.cancel() && panel.startWith(printer));
     for (const Value &value : basicValues(shown))
         QCOMPARE(panel.currentText(value.first), value.second);
 }
@@ -275,24 +265,21 @@ void TestPanel::valueMovesWithTheHardware()
     const Value fromLargeTray(source, "Large capacity tray");
     const Value smallSheet(pageSize, "A6");
     Panel panel;
-    QVERIFY2(startOnBasic(&panel) && panel.set(smallSheet) && panel.clickTab("Printer") &&
-                 panel.choose("cmbBxOption17", "Staple finisher") && panel.click("chkBxOption20"),
-             qPrintable(panel.error()));
+    QVERIFY(startOnBasic(&panel) && panel.set(smallSheet) && panel.clickTab("Printer") &&
+            panel.choose("cmbBxOption17", "Staple finisher") && panel.click("chkBxOption20"));
     QVERIFY(!panel.canSet(finisherTray)); // small sheets don't get there
-    QVERIFY2(panel.clickTab("Basic") && panel.set(fromLargeTray) && panel.set(finisherTray),
-             qPrintable(panel.error()));
+    QVERIFY(panel.clickTab("Basic") && panel.set(fromLargeTray) && panel.set(finisherTray));
     QCOMPARE(panel.currentText(pageSize), QString("A4"));
     QVERIFY(!panel.canSet(smallSheet));
 
-    QVERIFY2(panel.clickTab("Printer") && panel.choose("cmbBxOption17", "Not installed") &&
-                 panel.click("chkBxOption20") && panel.clickTab("Basic"),
-             qPrintable(panel.error()));
+    QVERIFY(panel.clickTab("Printer") && panel.choose("cmbBxOption17", "Not installed") &&
+            panel.click("chkBxOption20") && panel.clickTab("Basic"));
     QCOMPARE(panel.currentText(destination), QString("Automatic"));
     QCOMPARE(panel.currentText(source), QString("Automatic"));
     QVERIFY(!panel.canSet(finisherTray));
     QVERIFY(!panel.canSet(fromLargeTray));
     QVERIFY(panel.canSet(smallSheet)); // the tray that was left has no say any more
-    QVERIFY2(panel.apply(), qPrintable(panel.error()));
+    QVERIFY(panel.apply());
     QCOMPARE(panel.message(), applied);
     QCOMPARE(missing({"OutputBin=Auto", "InputSlot=Auto"}, savedLines(printer)), QStringList());
 }
@@ -303,7 +290,7 @@ void TestPanel::savedConflictIsMoved()
     QVERIFY(setFileText(cfgFile(printer), "InputSlot=LargeCapacity\nOutputBin=Finisher\n"
                                           "PageSize=B5\nMediaType=NoSuchMedia\n"));
     Panel panel;
-    QVERIFY2(startOnBasic(&panel), qPrintable(panel.error()));
+    QVERIFY(startOnBasic(&panel));
     QCOMPARE(panel.currentText(source), QString("Automatic"));
     QCOMPARE(panel.currentText(destination), QString("Automatic"));
     QCOMPARE(panel.currentText(pageSize), QString("JIS B5"));
@@ -332,9 +319,9 @@ void TestPanel::printerLost()
     QFETCH(QString, back);
     Panel panel;
     const auto basicPage = [&panel] { return panel.tabs().value(1).rect; };
-    QVERIFY2(panel.start(), qPrintable(panel.error()));
+    QVERIFY(panel.start());
     QVERIFY(basicPage().isEmpty());
-    QVERIFY2(panel.select(printer), qPrintable(panel.error()));
+    QVERIFY(panel.select(printer));
     const QRect room = basicPage();
     const QRect above = panel.tabs().value(0).rect;
     QCOMPARE(room, above.translated(0, above.height()));
@@ -343,15 +330,14 @@ void TestPanel::printerLost()
     QVERIFY(QFile::remove(lpoptionsFile()));
 
     QVERIFY2(server->removeQueue(lost), qPrintable(server->error()));
-    QVERIFY2(noticed == "by a click" ? panel.select(lost)
-                                     : panel.clickTab("Basic") && panel.choose(pageSize, "A5"),
-             qPrintable(panel.error()));
+    QVERIFY(noticed == "by a click" ? panel.select(lost)
+                                    : panel.clickTab("Basic") && panel.choose(pageSize, "A5"));
     QCOMPARE(panel.message(), printersChanged);
-    QVERIFY2(panel.answer(), qPrintable(panel.error()));
+    QVERIFY(panel.answer());
     QCOMPARE(panel.message(), noMessage); // told once
 
     // Nothing is selected in its place, not even when the window is used again.
-    QVERIFY2(panel.activateWindow(PanelWidget::ofClass("BixDialog")), qPrintable(panel.error()));
+    QVERIFY(panel.activateWindow(PanelWidget::ofClass("BixDialog")));
     QVERIFY(!panel.rowsOf(0).contains(lost));
     QCOMPARE(panel.rowsOf(0).size(), 4);
     QVERIFY(!panel.hasSelection());
@@ -365,27 +351,25 @@ void TestPanel::printerLost()
 
     if (!back.isEmpty()) {
         QVERIFY2(server->addSampleQueues(), qPrintable(server->error()));
-        QVERIFY2(panel.apply(), qPrintable(panel.error())); // the way to have the table refreshed
+        QVERIFY(panel.apply()); // the way to have the table refreshed
         QCOMPARE(panel.message(), nothingSelected);
-        QVERIFY2(panel.answer(), qPrintable(panel.error()));
+        QVERIFY(panel.answer());
         QVERIFY(!panel.hasSelection());
     }
-    QVERIFY2(panel.select(next), qPrintable(panel.error()));
+    QVERIFY(panel.select(next));
     QCOMPARE(panel.message(), noMessage);
     QCOMPARE(panel.windowTitle(), "Brixola Press Desk - " + next);
     QCOMPARE(panel.rowsOf(0).value(panel.table(printers).currentRow), next);
     QCOMPARE(basicPage(), room);
-    QVERIFY2(panel.clickTab("Basic") && panel.choose(pageSize, "A5") && panel.apply(),
-             qPrintable(panel.error()));
+    QVERIFY(panel.clickTab("Basic") && panel.choose(pageSize, "A5") && panel.apply());
     QCOMPARE(panel.message(), applied);
     QVERIFY(publishedOptions(next).contains("PageSize=A5"));
 
     // Without a printer OK closes the window all the same.
     QVERIFY2(panel.answer() && server->removeQueue(next), qPrintable(server->error()));
-    QVERIFY2(panel.choose(pageSize, "A4") && panel.answer() && panel.ok(),
-             qPrintable(panel.error()));
+    QVERIFY(panel.choose(pageSize, "A4") && panel.answer() && panel.ok());
     QCOMPARE(panel.message(), nothingSelected);
-    QVERIFY2(panel.answer() && panel.waitForEnd(), qPrintable(panel.error()));
+    QVERIFY(panel.answer() && panel.waitForEnd());
     QCOMPARE(panel.exitStatus(), 0);
 }
 
@@ -404,9 +388,9 @@ void TestPanel::printerAdded()
     QFETCH(QString, ppd);
     QFETCH(QString, row);
     Panel panel;
-    QVERIFY2(startOnBasic(&panel), qPrintable(panel.error()));
+    QVERIFY(startOnBasic(&panel));
     QVERIFY2(server->addQueue(name, ppd), qPrintable(server->error()));
-    QVERIFY2(panel.choose(pageSize, "A5"), qPrintable(panel.error()));
+    QVERIFY(panel.choose(pageSize, "A5"));
 
     QCOMPARE(panel.message(), noMessage);
     QCOMPARE(panel.rowsOf(0).indexOf(name), row.toInt());
@@ -414,7 +398,7 @@ void TestPanel::printerAdded()
     // The selected printer is the same, with what was changed.
     QCOMPARE(panel.windowTitle(), "Brixola Press Desk - " + printer);
     QCOMPARE(panel.currentText(pageSize), QString("A5"));
-    QVERIFY2(panel.apply(), qPrintable(panel.error()));
+    QVERIFY(panel.apply());
     QCOMPARE(panel.message(), applied);
     QVERIFY(publishedOptions(printer).contains("PageSize=A5"));
 }
@@ -434,10 +418,9 @@ void TestPanel::printerLosesItsPpd()
     const QString stored = "/etc/cups/ppd/Ratex_200.ppd";
     const QByteArray sound = fileText(stored);
     Panel panel;
-    QVERIFY2(panel.startWith(printer) && panel.click("chkBxOption20") && panel.select(printer),
-             qPrintable(panel.error()));
+    QVERIFY(panel.startWith(printer) && panel.click("chkBxOption20") && panel.select(printer));
     QVERIFY(!sound.isEmpty() && setFileText(stored, "rubbish\n"));
-    QVERIFY2(key.isEmpty() ? panel.select(other) : panel.press(key), qPrintable(panel.error()));
+    QVERIFY(key.isEmpty() ? panel.select(other) : panel.press(key));
     QCOMPARE(panel.message(), noMessage);
     // Nothing of the printer before is left to be taken for its options.
     QVERIFY(!panel.hasSelection());
@@ -448,7 +431,7 @@ void TestPanel::printerLosesItsPpd()
     QVERIFY(!QFile::exists(cfgFile(other)));
 
     QVERIFY(setFileText(stored, sound));
-    QVERIFY2(panel.select(other), qPrintable(panel.error()));
+    QVERIFY(panel.select(other));
     QCOMPARE(panel.windowTitle(), "Brixola Press Desk - " + other);
     QVERIFY(panel.shownTabs().contains("Basic"));
 }

@@ -228,6 +228,8 @@ no storage, no sets that need it | Option18=None
 forced duplex has conflicts of duplex, the lower ranks | FKPDuplex=On | Duplex=None FKPToggle=Off OutputBin=Side
   | Duplex: None DuplexTumble DuplexNoTumble; OutputBin: Top Side; *Duplex DuplexTumble *OutputBin Side;
     *Duplex DuplexNoTumble *PageSize A5
+accounting or a login | cJobAccount=True | FKPToggle=On cUserLogin=True
+  | BqManagment: Default; SupportsUserLogin=True
 policy | FKPColorMode=On | ColorModel=CMYK ColorModel=RGB FKPToggle=Off | ColorModel: CMYK RGB Gray
 coloured watermarks need colour | ColorModel=Gray | Wclr=Blue Wclr=Green Wclr=Red
   | ColorModel: CMYK Gray; Wclr: Black Red Green Blue

@@ -2,8 +2,8 @@
 
 #include <QDialog>
 
-/// True while no page has a mark. Written by each constraint pass of the main dialog; profiles can
-/// be loaded only then.
+/// True while no page has a mark. Written by each constraint pass of the main dialog; a profile can
+/// be saved only then.
 extern bool constraintsClear;
 
 /// What the pages know of the main dialog: the passes that they start through their connections.

@@ -1,5 +1,7 @@
 #include "panelsteps.h"
 
+#include "testhelpers.h"
+
 #include <QFile>
 #include <QProcess>
 
@@ -44,24 +46,12 @@ bool makeUserFolder()
 {
     QFile::remove(lpoptionsFile());
     return userFolder().removeRecursively() && userFolder().mkpath(".") &&
-           writeFile(userFolder().filePath("Settings"), "Telemetry=False\n");
-}
-
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool writeFile(const QString &path, const QByteArray &text)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+           setFileText(userFolder().filePath("Settings"), "Telemetry=False\n");
 }
 
 QStringList savedLines(const QString &printer)
 {
-    return QString::fromUtf8(contents(cfgFile(printer))).split('\n');
+    return QString::fromUtf8(fileText(cfgFile(printer))).split('\n');
 }
 
 QStringList publishedOptions(const QString &printer)
@@ -90,6 +80,8 @@ Panel::Panel()
 
 Panel::~Panel()
 {
+    if (QTest::currentTestFailed() && !error().isEmpty())
+        qInfo("The panel's last error: %s", qPrintable(error()));
     complaints += standardError();
 }
 

@@ -28,10 +28,6 @@ QString lpoptionsFile();
 /// Empties the user's folder and defaults. The question about data collection has been answered.
 bool makeUserFolder();
 
-/// A file's text; empty if it can't be read.
-QByteArray contents(const QString &path);
-bool writeFile(const QString &path, const QByteArray &text);
-
 QStringList savedLines(const QString &printer);
 /// What the print system knows as the user's options of a queue.
 QStringList publishedOptions(const QString &printer);
@@ -47,7 +43,7 @@ class Panel : public PanelDriver
 {
 public:
     Panel();
-    ~Panel(); ///< adds to the complaints
+    ~Panel(); ///< adds to the complaints; after a failure says what went wrong last
 
     bool startWith(const QString &printer);
     bool select(const QString &printer);
