@@ -159,6 +159,8 @@ PanelDriver::PanelDriver(const QString &program)
 {
     m_environment.remove("WAYLAND_DISPLAY");
     m_environment.insert("QT_QPA_PLATFORM", "xcb");
+    // The panel draws without OpenGL, whose drivers leak a little when they are only loaded.
+    m_environment.insert("QT_XCB_GL_INTEGRATION", "none");
     m_environment.insert("XDG_RUNTIME_DIR", m_directory.path());
     // Some builds of Qt send warnings to the journal unless a terminal is there.
     m_environment.insert("QT_FORCE_STDERR_LOGGING", "1");
