@@ -88,7 +88,7 @@ void JobAccounting::showMode()
         idEdit->clear();
 }
 
-void JobAccounting::refreshIds()
+void JobAccounting::refreshAccountCombo()
 {
     const QString selected = idBox->currentText();
     idBox->clear();
@@ -115,7 +115,7 @@ bool JobAccounting::holdsBack() const
 
 // The settings file
 
-void JobAccounting::load()
+void JobAccounting::loadAccountSettings()
 {
     const bOption *option = currentStore ? currentStore->find(keyword) : nullptr;
     // The list belongs to the printer; nothing of another one's stays.
@@ -133,7 +133,7 @@ void JobAccounting::load()
         button->setChecked(true);
     idEdit->clear();
     accounts = accountsFromLines(readSettingValues(listKey));
-    refreshIds();
+    refreshAccountCombo();
     loadId(defaultId);
     showMode();
 }

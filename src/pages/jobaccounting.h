@@ -37,7 +37,7 @@ public:
     /// Shows the widgets of the mode. A typed ID goes with its field.
     void showMode();
     /// Puts the list into its box. The selection stays if it is still there.
-    void refreshIds();
+    void refreshAccountCombo();
 
     /// The message for what is wrong; empty if nothing is.
     QString fault() const;
@@ -45,7 +45,7 @@ public:
     bool holdsBack() const;
 
     /// From the printer's settings file, the list included.
-    void load();
+    void loadAccountSettings();
     void save(Settings *settings) const;
 
     QLabel *label;

@@ -81,7 +81,7 @@ bool JobLogin::holdsBack() const
 
 // The settings file
 
-void JobLogin::load()
+void JobLogin::loadLoginSettings()
 {
     const bool available = currentStore && currentStore->find(QStringLiteral("cUserLogin"));
     const QString name = available ? readSetting(nameKey) : QString();

@@ -28,7 +28,7 @@ public:
     bool holdsBack() const;
 
     /// From the printer's settings file.
-    void load();
+    void loadLoginSettings();
     void save(Settings *settings) const;
 
     QLabel *label;

@@ -138,7 +138,7 @@ bool JobStorage::select(const QString &text)
     return index >= 0;
 }
 
-void JobStorage::updateChoices()
+void JobStorage::updateStorageChoices()
 {
     if (!currentStore)
         return;
@@ -253,10 +253,10 @@ void JobStorage::load()
         numberEdit->setText(number);
     passwordEdit->setText(SecretSetting::withSingleBackslashes(
         SecretSetting::decrypted(readSetting(boxPasswordKey))));
-    loadState();
+    syncStorageState();
 }
 
-void JobStorage::loadState()
+void JobStorage::syncStorageState()
 {
     const bOption *option = storageOption();
     button->setEnabled(option);

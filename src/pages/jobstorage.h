@@ -35,7 +35,7 @@ public:
 
     /// Adds and removes the two items. Nothing is announced, and so no input is cleared, while the
     /// current text stays the same.
-    void updateChoices();
+    void updateStorageChoices();
     /// Shows the inputs that an item needs and hides the others.
     void showInputs(StorageKind kind);
     /// The same, with the shown inputs empty.
@@ -76,5 +76,5 @@ private:
     bool select(const QString &text);
     void change(const QString &item, StorageOffer offer);
     void remove(const QString &item);
-    void loadState();
+    void syncStorageState();
 };

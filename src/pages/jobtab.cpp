@@ -313,7 +313,7 @@ void JobTab::reload()
         clearMarks();
         applyLabels();
         loadOptions();
-        storage->updateChoices();
+        storage->updateStorageChoices();
 
         email->updateAvailability();
         name->updateAvailability();
@@ -322,17 +322,22 @@ void JobTab::reload()
             accounting->button->setChecked(false);
         accounting->button->setEnabled(canAccount);
 
-        email->load();
-        verifyJobEmail();
-        name->load();
-        storage->updateChoices();
-        storage->load();
-        accounting->load();
-        login->load();
+        loadJobSettings();
+        accounting->loadAccountSettings();
+        login->loadLoginSettings();
         applyAllWidgets();
         verifyJobEmail();
     }
     setBoundSignalsBlocked(false);
+}
+
+void JobTab::loadJobSettings()
+{
+    email->load();
+    verifyJobEmail();
+    name->load();
+    storage->updateStorageChoices();
+    storage->load();
 }
 
 void JobTab::hideErrors()
@@ -361,7 +366,7 @@ void JobTab::toggleJobSettingsCheckBox(bool toggled)
 
 void JobTab::beforeConstraints()
 {
-    storage->updateChoices();
+    storage->updateStorageChoices();
     // The pass may have moved the list silently.
     storage->showInputs(storage->kind());
     verifyjobName();
@@ -462,14 +467,14 @@ void JobTab::deleteCustomAccountID()
     tempAccounts.remove(accountList->currentId());
     loadCustomIDTable();
     checkCustomIDButtonStates();
-    accounting->refreshIds();
+    accounting->refreshAccountCombo();
 }
 
 void JobTab::saveTempAccountIDs()
 {
     accounting->accounts = tempAccounts;
     accountList->hide();
-    accounting->refreshIds();
+    accounting->refreshAccountCombo();
 }
 
 // User login

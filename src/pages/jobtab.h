@@ -78,6 +78,7 @@ private:
     QGridLayout *createNameGrid();
     void addLine(QGridLayout *grid, int row, int columns);
     void setPictures();
+    void loadJobSettings();
     void hideErrors();
     /// Marks a group's label with a message; an empty one takes the mark away.
     void mark(QLabel *label, const QString &message);

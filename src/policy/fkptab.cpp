@@ -251,13 +251,18 @@ void FKPTab::verifySuccess(const QString &message)
     verifySucceeded = PolicyReply::parsePolicies(body, &policies);
     serverReached = true;
     applyPolicies();
-    const QString report = PolicyReply::report(body, interactive);
-    if (!report.isEmpty())
-        showMessage(report);
+    reportVerifyResult(body);
     if (verifySucceeded) {
         credentialsChanged = false;
         recordVerified(isOn());
     }
+}
+
+void FKPTab::reportVerifyResult(const QString &body)
+{
+    const QString report = PolicyReply::report(body, interactive);
+    if (!report.isEmpty())
+        showMessage(report);
 }
 
 void FKPTab::verifyFailure(const QString &message)

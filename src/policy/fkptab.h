@@ -68,6 +68,7 @@ private:
     void startLogin(const QString &server, const QString &port, const QString &user,
                     const QString &password);
     void applyPolicies();
+    void reportVerifyResult(const QString &body);
     bool isStaleReply(const QString &message) const;
     void recordVerified(bool on);
     void showMessage(const QString &text);
