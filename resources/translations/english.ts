@@ -465,6 +465,7 @@ Credentials and policies will be checked again during printing.
     <message>
         <source>Job accounting</source>
         <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Job accounting</translation>
     </message>
     <message>
@@ -490,6 +491,7 @@ Credentials and policies will be checked again during printing.
     <message>
         <source>Job e-mail notification</source>
         <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Job e-mail notification</translation>
     </message>
     <message>
@@ -516,6 +518,7 @@ For example: %1</translation>
     </message>
     <message>
         <source>User login</source>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>User login</translation>
     </message>
     <message>
@@ -568,6 +571,7 @@ For example: %1</translation>
     </message>
     <message>
         <source>Job storage:</source>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Job storage:</translation>
     </message>
     <message>

@@ -465,6 +465,7 @@ Les informations de connexion et les règles seront de nouveau vérifiées lors 
     <message>
         <source>Job accounting</source>
         <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Comptes</translation>
     </message>
     <message>
@@ -490,6 +491,7 @@ Les informations de connexion et les règles seront de nouveau vérifiées lors 
     <message>
         <source>Job e-mail notification</source>
         <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Notification par e-mail</translation>
     </message>
     <message>
@@ -516,6 +518,7 @@ Par exemple : %1</translation>
     </message>
     <message>
         <source>User login</source>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Connexion</translation>
     </message>
     <message>
@@ -568,6 +571,7 @@ Par exemple : %1</translation>
     </message>
     <message>
         <source>Job storage:</source>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Stockage:</translation>
     </message>
     <message>

@@ -465,6 +465,7 @@ Anmeldedaten und Richtlinien werden beim Drucken erneut geprüft.
     <message>
         <source>Job accounting</source>
         <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Abrechnung</translation>
     </message>
     <message>
@@ -490,6 +491,7 @@ Anmeldedaten und Richtlinien werden beim Drucken erneut geprüft.
     <message>
         <source>Job e-mail notification</source>
         <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>E-Mail-Nachricht</translation>
     </message>
     <message>
@@ -516,6 +518,7 @@ Zum Beispiel: %1</translation>
     </message>
     <message>
         <source>User login</source>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Anmeldung</translation>
     </message>
     <message>
@@ -568,6 +571,7 @@ Zum Beispiel: %1</translation>
     </message>
     <message>
         <source>Job storage:</source>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Speichern:</translation>
     </message>
     <message>

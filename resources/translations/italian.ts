@@ -465,6 +465,7 @@ Le credenziali e i criteri verranno verificati di nuovo durante la stampa.
     <message>
         <source>Job accounting</source>
         <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Contabilità lavori</translation>
     </message>
     <message>
@@ -490,6 +491,7 @@ Le credenziali e i criteri verranno verificati di nuovo durante la stampa.
     <message>
         <source>Job e-mail notification</source>
         <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Notifica e-mail</translation>
     </message>
     <message>
@@ -516,6 +518,7 @@ Ad esempio: %1</translation>
     </message>
     <message>
         <source>User login</source>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Accesso utente</translation>
     </message>
     <message>
@@ -568,6 +571,7 @@ Ad esempio: %1</translation>
     </message>
     <message>
         <source>Job storage:</source>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Memoria:</translation>
     </message>
     <message>

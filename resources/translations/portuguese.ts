@@ -465,6 +465,7 @@ As credenciais e as políticas serão verificadas novamente durante a impressão
     <message>
         <source>Job accounting</source>
         <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Contas</translation>
     </message>
     <message>
@@ -490,6 +491,7 @@ As credenciais e as políticas serão verificadas novamente durante a impressão
     <message>
         <source>Job e-mail notification</source>
         <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Aviso por e-mail</translation>
     </message>
     <message>
@@ -516,6 +518,7 @@ Por exemplo: %1</translation>
     </message>
     <message>
         <source>User login</source>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Início de sessão</translation>
     </message>
     <message>
@@ -568,6 +571,7 @@ Por exemplo: %1</translation>
     </message>
     <message>
         <source>Job storage:</source>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Armazenar:</translation>
     </message>
     <message>

@@ -465,6 +465,7 @@ Las credenciales y las directivas se volverán a comprobar durante la impresión
     <message>
         <source>Job accounting</source>
         <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Cuentas</translation>
     </message>
     <message>
@@ -490,6 +491,7 @@ Las credenciales y las directivas se volverán a comprobar durante la impresión
     <message>
         <source>Job e-mail notification</source>
         <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Aviso por correo</translation>
     </message>
     <message>
@@ -516,6 +518,7 @@ Por ejemplo: %1</translation>
     </message>
     <message>
         <source>User login</source>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Inicio de sesión</translation>
     </message>
     <message>
@@ -568,6 +571,7 @@ Por ejemplo: %1</translation>
     </message>
     <message>
         <source>Job storage:</source>
+        <extracomment>Short, since it stands below a small picture.</extracomment>
         <translation>Almacenar:</translation>
     </message>
     <message>
