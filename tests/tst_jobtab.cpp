@@ -231,6 +231,10 @@ void TestJobTab::captions()
              QString("Job e-mail\nnotification"));
     QCOMPARE(ButtonCaption::inTwoLines("E-Mail-Nachricht"), QString("E-Mail-\nNachricht"));
     QCOMPARE(ButtonCaption::inTwoLines("Auftragsabrechnung"), QString("Auftragsabrechnung"));
+    BixCheckBoxButton button(nullptr, QString(), QIcon());
+    ButtonCaption::set(&button, "Insert", "Page insert");
+    for (const QAbstractButton *part : button.findChildren<QAbstractButton *>())
+        QCOMPARE(part->accessibleName(), QString("Page insert"));
     QLabel rich;
     JobTexts::setRichText(&rich, "One\\nA & B");
     QCOMPARE(rich.text(), QString("<font>One<br>A &amp; B</font>"));

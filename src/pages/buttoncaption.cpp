@@ -38,7 +38,8 @@ void ButtonCaption::set(BixCheckBoxButton *button, const QString &caption, const
     if (!box || !picture)
         return;
     box->setText(inTwoLines(caption));
-    box->setAccessibleName(name.isEmpty() ? caption : name);
+    for (QWidget *part : {static_cast<QWidget *>(box), static_cast<QWidget *>(picture)})
+        part->setAccessibleName(name.isEmpty() ? caption : name);
     // The two share a cell.
     picture->setStyleSheet(QStringLiteral("border: none; outline: none; padding-bottom: %1px;")
                                .arg(box->sizeHint().height()));
