@@ -4,7 +4,7 @@
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "model/ppdimport.h"
-#include "storage/profiledialog.h"
+#include "profiles/profiledialog.h"
 #include "storage/settingsfile.h"
 #include "support/printserver.h"
 #include "support/recordingdialog.h"

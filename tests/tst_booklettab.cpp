@@ -1,4 +1,4 @@
-#include "pages/booklettab.h"
+#include "pages/layout/booklettab.h"
 #include "storage/settingsfile.h"
 #include "support/recordingdialog.h"
 #include "widgets/bixbuttongroup.h"

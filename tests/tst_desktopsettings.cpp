@@ -1,5 +1,5 @@
-#include "storage/desktopsettings.h"
-#include "storage/pagesetuptable.h"
+#include "desktop/desktopsettings.h"
+#include "desktop/pagesetuptable.h"
 #include "support/testhelpers.h"
 
 #include <QDir>

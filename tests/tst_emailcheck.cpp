@@ -1,4 +1,4 @@
-#include "pages/emailcheck.h"
+#include "pages/job/emailcheck.h"
 #include "support/testhelpers.h"
 
 class TestEmailCheck : public QObject

@@ -1,5 +1,5 @@
 #include "model/optionstore.h"
-#include "pages/finishingtab.h"
+#include "pages/finishing/finishingtab.h"
 #include "storage/settingsfile.h"
 #include "support/recordingdialog.h"
 #include "support/storebuilder.h"

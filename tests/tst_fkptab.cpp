@@ -3,9 +3,9 @@
 
 #include "app/bixdialog.h"
 #include "model/optionstore.h"
-#include "pages/generaltab.h"
-#include "pages/imagingtab.h"
-#include "pages/printertab.h"
+#include "pages/basic/generaltab.h"
+#include "pages/imaging/imagingtab.h"
+#include "pages/printer/printertab.h"
 #include "policy/fkptab.h"
 #include "storage/settingsfile.h"
 #include "support/dialogs.h"

@@ -1,5 +1,5 @@
 #include "model/optionstore.h"
-#include "pages/imagingtab.h"
+#include "pages/imaging/imagingtab.h"
 #include "storage/settingsfile.h"
 #include "support/recordingdialog.h"
 #include "support/storebuilder.h"

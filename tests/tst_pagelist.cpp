@@ -1,4 +1,4 @@
-#include "pages/pagelist.h"
+#include "pages/publishing/pagelist.h"
 #include "support/testhelpers.h"
 
 class TestPageList : public QObject

@@ -1,6 +1,6 @@
 #include "model/optionstore.h"
-#include "pages/generaltab.h"
-#include "pages/printertab.h"
+#include "pages/basic/generaltab.h"
+#include "pages/printer/printertab.h"
 #include "support/recordingdialog.h"
 #include "support/storebuilder.h"
 #include "support/testhelpers.h"

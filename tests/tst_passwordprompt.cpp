@@ -3,7 +3,7 @@
 
 #include "app/bixdialog.h"
 #include "model/optionstore.h"
-#include "pages/printertab.h"
+#include "pages/printer/printertab.h"
 #include "privileged/passwordprompt.h"
 #include "privileged/ppdwriter.h"
 #include "support/dialogs.h"

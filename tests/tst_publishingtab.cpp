@@ -1,6 +1,6 @@
 #include "app/settingscollector.h"
 #include "model/optionstore.h"
-#include "pages/publishingtab.h"
+#include "pages/publishing/publishingtab.h"
 #include "storage/settingsfile.h"
 #include "support/recordingdialog.h"
 #include "support/testhelpers.h"

@@ -1,5 +1,5 @@
 #include "model/optionstore.h"
-#include "pages/tab.h"
+#include "pages/base/tab.h"
 #include "support/recordingdialog.h"
 #include "support/storebuilder.h"
 #include "support/testhelpers.h"

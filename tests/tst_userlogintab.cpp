@@ -1,4 +1,4 @@
-#include "pages/userlogintab.h"
+#include "pages/login/userlogintab.h"
 #include "storage/settingsfile.h"
 #include "support/recordingdialog.h"
 #include "support/testhelpers.h"

@@ -1,4 +1,4 @@
-#include "pages/watermarkrecords.h"
+#include "pages/watermark/watermarkrecords.h"
 #include "support/testhelpers.h"
 
 class TestWatermarkRecords : public QObject

@@ -1,7 +1,7 @@
 #include "app/publication.h"
 #include "app/settingscollector.h"
 #include "model/optionstore.h"
-#include "pages/watermarktab.h"
+#include "pages/watermark/watermarktab.h"
 #include "storage/settingsfile.h"
 #include "support/recordingdialog.h"
 #include "support/storebuilder.h"

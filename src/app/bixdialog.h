@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/paneldialog.h"
+#include "pages/base/paneldialog.h"
 
 #include <QList>
 

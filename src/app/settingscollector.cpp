@@ -1,6 +1,6 @@
 #include "app/settingscollector.h"
 
-#include "pages/tab.h"
+#include "pages/base/tab.h"
 
 SettingsCollector::SettingsCollector(const QList<Tab *> &pages)
     : pages(pages)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "storage/settingssource.h"
+#include "profiles/settingssource.h"
 
 #include <QList>
 

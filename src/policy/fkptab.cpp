@@ -1,12 +1,12 @@
 #include "policy/fkptab.h"
 
 #include "model/optionstore.h"
-#include "pages/pagewidgets.h"
-#include "pages/secretsetting.h"
+#include "pages/base/pagewidgets.h"
+#include "pages/base/paneldialog.h"
 #include "policy/bcurl.h"
+#include "storage/secretsetting.h"
 #include "storage/settingsfile.h"
 #include "widgets/bixbuttongroup.h"
-#include "widgets/paneldialog.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/tab.h"
+#include "pages/base/tab.h"
 #include "policy/policyreply.h"
 
 class QCheckBox;

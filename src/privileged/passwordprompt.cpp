@@ -1,9 +1,9 @@
 #include "privileged/passwordprompt.h"
 
 #include "model/optionstore.h"
+#include "pages/base/paneldialog.h"
 #include "privileged/ppdwriter.h"
 #include "widgets/comboboxex.h"
-#include "widgets/paneldialog.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,0 +1,42 @@
+#include "pages/base/pagewidgets.h"
+
+#include "model/optionstore.h"
+#include "pages/base/widgetmap.h"
+#include "widgets/bixbuttongroup.h"
+#include "widgets/comboboxex.h"
+
+#include <QLabel>
+
+#include <algorithm>
+
+namespace PageWidgets {
+
+QString withColon(const QString &text)
+{
+    return text + QLatin1Char(':');
+}
+
+LabeledComboBox labeledComboBox(QWidget *page, const char *labelName, const char *boxName,
+                                const QString &labelText, int width)
+{
+    LabeledComboBox pair;
+    pair.label = named(new QLabel(labelText, page), labelName);
+    pair.box = named(new ComboBoxEx(page), boxName);
+    if (width > 0)
+        pair.box->setFixedWidth(width);
+    return pair;
+}
+
+void addButton(BixButtonGroup *group, const ButtonRow &row, Translate tr)
+{
+    group->addButton(tr(row.name, nullptr, -1), QLatin1String(row.icon));
+}
+
+bool printerHasAnyOf(const WidgetMap &widgets)
+{
+    return currentStore && std::any_of(widgets.begin(), widgets.end(), [](const auto &entry) {
+               return currentStore->find(entry.first) != nullptr;
+           });
+}
+
+} // namespace PageWidgets

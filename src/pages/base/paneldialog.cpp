@@ -1,0 +1,3 @@
+#include "pages/base/paneldialog.h"
+
+bool constraintsClear = false;

@@ -1,0 +1,226 @@
+#include "pages/basic/generaltab.h"
+
+#include "model/boption.h"
+#include "model/optionchoice.h"
+#include "model/optionstore.h"
+#include "pages/base/pagelayout.h"
+#include "pages/base/pagewidgets.h"
+#include "pages/base/paneldialog.h"
+#include "widgets/bixbuttongroup.h"
+#include "widgets/comboboxex.h"
+#include "widgets/constraintmark.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+using PageWidgets::withColon;
+
+namespace {
+
+const QLatin1String paperKeyword("PageSize");
+const QLatin1String colorKeyword("ColorModel");
+
+// PPD keywords that describe the paper too; they always follow the page size.
+constexpr const char *paperAliases[] = {"PageRegion", "ImageableArea", "PaperDimension",
+                                        "MediaSize"};
+
+} // namespace
+
+GeneralTab::GeneralTab(PanelDialog *dialog)
+    : Tab(dialog)
+{
+    GeneralTab::setTabName();
+    GeneralTab::createWidgets();
+    connectBoundWidgets();
+    // After the connections above: a click first moves the option, then mirrors to the other page.
+    connect(colorGroup_, qOverload<int>(&BixButtonGroup::buttonClicked), dialog,
+            &PanelDialog::toggleColorMode);
+    createLayout();
+}
+
+void GeneralTab::setTabName()
+{
+    tabName_ = tr("Basic");
+}
+
+QIcon GeneralTab::tabIcon()
+{
+    return QIcon(QStringLiteral(":/icons/tab-basic"));
+}
+
+QIcon GeneralTab::tabConstraintIcon()
+{
+    return QIcon(QStringLiteral(":/icons/tab-basic-constraint"));
+}
+
+bool GeneralTab::isAvailable()
+{
+    return currentStore != nullptr;
+}
+
+// Widgets
+
+void GeneralTab::createWidgets()
+{
+    paperGrid = new QGridLayout;
+    addComboBox(paperGrid, 0, "PageSize", tr("Media size"));
+    addComboBox(paperGrid, 2, "MediaType", tr("Media type"));
+    addComboBox(paperGrid, 4, "InputSlot", tr("Source"));
+    addComboBox(paperGrid, 7, "OutputBin", tr("Destination"));
+
+    collateGroup = addGroup("Coll", QStringLiteral("butGroupCol"), tr("Collate"));
+    collateGroup->addButton(tr("Off"), QStringLiteral(":/icons/collate-off"));
+    collateGroup->addButton(tr("On"), QStringLiteral(":/icons/collate-on"));
+
+    duplexGroup = addGroup("Duplex", QStringLiteral("butGroupDuplex"), tr("Duplex"));
+    duplexGroup->addButton(tr("Off"), QStringLiteral(":/icons/duplex-off"));
+    duplexGroup->addButton(tr("Long edge"), QStringLiteral(":/icons/duplex-long"));
+    duplexGroup->addButton(tr("Short edge"), QStringLiteral(":/icons/duplex-short"));
+
+    colorGroup_ = addGroup("ColorModel", QStringLiteral("butGroupColorModelGeneral"), tr("Color"));
+    colorGroup_->addButton(tr("Full color"), QStringLiteral(":/icons/color"));
+    colorGroup_->addButton(tr("Black & white"), QStringLiteral(":/icons/monochrome"));
+    colorGroup_->setFixedWidth(200);
+    colorGroup_->setLabelEnabled(true);
+}
+
+void GeneralTab::addComboBox(QGridLayout *grid, int row, const char *keyword, const QString &text)
+{
+    const auto [label, box] = PageWidgets::labeledComboBox(
+        this, QByteArray("lbl") + keyword, QByteArray("cmbBx") + keyword, withColon(text), 215);
+    boundWidgets.insert(QLatin1String(keyword), box);
+    markWidgets.insert(QLatin1String(keyword), label);
+    grid->addWidget(label, row, 1, Qt::AlignLeft | Qt::AlignBottom);
+    grid->addWidget(box, row + 1, 1, Qt::AlignLeft | Qt::AlignTop);
+}
+
+BixButtonGroup *GeneralTab::addGroup(const char *keyword, const QString &accessibleName,
+                                     const QString &title)
+{
+    auto *group = new BixButtonGroup(this, withColon(title));
+    group->setAccessibleName(accessibleName);
+    boundWidgets.insert(QLatin1String(keyword), group);
+    markWidgets.insert(QLatin1String(keyword), group);
+    return group;
+}
+
+void GeneralTab::createLayout()
+{
+    paperGrid->setColumnStretch(2, 1);
+    paperGrid->setRowStretch(12, 1);
+
+    auto *groupGrid = new QGridLayout;
+    groupGrid->addWidget(collateGroup, 0, 0, Qt::AlignLeft);
+    groupGrid->addWidget(PageLayout::horizontalLine(this), 1, 0);
+    groupGrid->addWidget(duplexGroup, 2, 0, Qt::AlignLeft);
+    groupGrid->addWidget(PageLayout::horizontalLine(this), 3, 0);
+    groupGrid->addWidget(colorGroup_, 4, 0, Qt::AlignLeft);
+    groupGrid->setColumnStretch(2, 1);
+    groupGrid->setRowStretch(9, 1);
+    for (BixButtonGroup *group : {duplexGroup, colorGroup_})
+        group->setStyleSheet(QStringLiteral(
+            "BixButtonGroup{ none; margin-top: 8px; margin-bottom: 8px } QPushButton { border: "
+            "none; outline: } "));
+
+    auto *layout = new QHBoxLayout(this);
+    layout->addLayout(paperGrid);
+    layout->addWidget(PageLayout::verticalLine(this));
+    layout->addLayout(groupGrid);
+
+    PageLayout::setTabOrder(
+        {boundWidgets.value(paperKeyword), boundWidgets.value(QStringLiteral("MediaType")),
+         boundWidgets.value(QStringLiteral("InputSlot")),
+         boundWidgets.value(QStringLiteral("OutputBin")), collateGroup->buttonAt(0)});
+}
+
+// Loading
+
+void GeneralTab::reload()
+{
+    setBoundSignalsBlocked(true);
+    setTabName();
+    constraintWidgets.clear();
+    clearMarks();
+    relabel();
+    loadOptions();
+    applyAllWidgets();
+    enableOptions();
+    fixColor();
+    setBoundSignalsBlocked(false);
+}
+
+void GeneralTab::relabel()
+{
+    applyLabels();
+    const auto setLabel = [this](const char *keyword, const QString &text) {
+        ConstraintMark::setPlainText(
+            qobject_cast<QLabel *>(markWidgets.value(QLatin1String(keyword))), withColon(text));
+    };
+    setLabel("OutputBin", tr("Destination"));
+    setLabel("InputSlot", tr("Source"));
+    setLabel("PageSize", tr("Print size"));
+}
+
+void GeneralTab::addComboBoxItems(ComboBoxEx *box, bOption *option)
+{
+    const QList<OptionChoice *> choices = option->choiceList();
+    for (const OptionChoice *choice : choices) {
+        // A custom size has no place to enter its measures here.
+        if (choice->key() != QLatin1String("Custom"))
+            box->addItem(choice->text());
+    }
+}
+
+// Colour on printers that have nothing to choose
+
+void GeneralTab::showSingleColor()
+{
+    colorGroup_->setButtonByValue(tr("Black & white"));
+    colorGroup_->setGroupEnabled(false);
+    colorGroup_->setLabelEnabled(true);
+}
+
+void GeneralTab::fixColor()
+{
+    const bOption *color = findOption(colorKeyword);
+    if (!color) {
+        colorGroup_->setButtonByValue(tr("Black & white"));
+        colorGroup_->setLabelEnabled(true);
+    } else if (color->choiceCount() == 1) {
+        showSingleColor();
+    }
+}
+
+bool GeneralTab::enableOptionsForButtonGroup(BixButtonGroup *group, bOption *option)
+{
+    const bool changed = Tab::enableOptionsForButtonGroup(group, option);
+    if (option->key() == colorKeyword && option->choiceCount() == 1)
+        showSingleColor();
+    return changed;
+}
+
+// Marks and settings
+
+void GeneralTab::clearMarks()
+{
+    Tab::clearMarks();
+    duplexGroup->markConstrained(false);
+}
+
+QHash<QString, QString> GeneralTab::collectSettings()
+{
+    savedSettings.clear();
+    for (const auto &[keyword, widget] : boundWidgets) {
+        const QString value = widgetValue(widget, findOption(keyword));
+        if (value.isEmpty())
+            continue;
+        savedSettings.insert(keyword, value);
+        if (keyword == paperKeyword) {
+            for (const char *alias : paperAliases)
+                savedSettings.insert(QLatin1String(alias), value);
+        }
+    }
+    return savedSettings;
+}

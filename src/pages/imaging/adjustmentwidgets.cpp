@@ -1,0 +1,41 @@
+#include "pages/imaging/adjustmentwidgets.h"
+
+#include <QDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegExpValidator>
+#include <QSlider>
+
+namespace AdjustmentWidgets {
+
+Row makeRow(QWidget *parent, const QString &name, const Limits &limits)
+{
+    Row row;
+    row.edit = new QLineEdit(parent);
+    row.edit->setAccessibleName(name);
+    row.edit->setMaximumWidth(45);
+    row.edit->setMaxLength(limits.maxLength);
+    row.edit->setValidator(
+        new QRegExpValidator(QRegExp(QLatin1String(limits.pattern), Qt::CaseSensitive), row.edit));
+    row.slider = new QSlider(Qt::Horizontal, parent);
+    row.slider->setAccessibleName(name);
+    row.slider->setFixedWidth(250);
+    row.slider->setRange(-limits.sliderEnd, limits.sliderEnd);
+    return row;
+}
+
+void place(QGridLayout *grid, int gridRow, QLabel *label, const Row &row)
+{
+    grid->addWidget(label, gridRow, 0, Qt::AlignLeft);
+    grid->addWidget(row.edit, gridRow, 0, 1, 3, Qt::AlignCenter);
+    grid->addWidget(row.slider, gridRow + 1, 0, 1, 3);
+}
+
+void simplifyTitleBar(QDialog *dialog)
+{
+    dialog->setWindowFlags(dialog->windowFlags() &
+                           ~(Qt::WindowContextHelpButtonHint | Qt::WindowMinMaxButtonsHint));
+}
+
+} // namespace AdjustmentWidgets

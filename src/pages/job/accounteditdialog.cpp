@@ -1,0 +1,60 @@
+#include "pages/job/accounteditdialog.h"
+
+#include "pages/base/pagewidgets.h"
+#include "pages/imaging/adjustmentwidgets.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegExpValidator>
+#include <QVBoxLayout>
+
+using PageWidgets::named;
+
+namespace {
+
+constexpr int longestId = 8;
+
+} // namespace
+
+AccountEditDialog::AccountEditDialog(QWidget *list)
+    : QDialog(list)
+    , idEdit(named(new QLineEdit(this), "lnEditCustomAccountID"))
+    , descriptionEdit(named(new QLineEdit(this), "lnEditCustomAccountDescription"))
+    , buttonBox(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
+{
+    AdjustmentWidgets::simplifyTitleBar(this);
+    setWindowModality(Qt::WindowModal);
+    idEdit->setMaxLength(longestId);
+    idEdit->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("[0-9]*")), idEdit));
+    descriptionEdit->setValidator(
+        new QRegExpValidator(QRegExp(QStringLiteral(".{,31}")), descriptionEdit));
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(new QLabel(tr("Account ID:"), this));
+    layout->addWidget(idEdit);
+    layout->addWidget(new QLabel(tr("Description:"), this));
+    layout->addWidget(descriptionEdit);
+    layout->addWidget(buttonBox);
+    setFixedSize(300, 165);
+}
+
+void AccountEditDialog::showNew()
+{
+    showWith(tr("New Account ID"), QString(), QString());
+}
+
+void AccountEditDialog::showKnown(const QString &id, const QString &description)
+{
+    showWith(tr("Edit Account ID"), id, description);
+}
+
+void AccountEditDialog::showWith(const QString &title, const QString &id,
+                                 const QString &description)
+{
+    setWindowTitle(title);
+    idEdit->setText(id);
+    descriptionEdit->setText(description);
+    idEdit->setFocus();
+    show();
+}

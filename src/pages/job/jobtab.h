@@ -1,0 +1,98 @@
+#pragma once
+
+#include "pages/base/tab.h"
+#include "pages/job/accountlines.h"
+
+#include <memory>
+
+class AccountEditDialog;
+class AccountListDialog;
+class JobAccounting;
+class JobEmail;
+class JobLogin;
+class JobName;
+class JobStorage;
+class QGridLayout;
+class QLabel;
+
+/// The page "Job": what a printer does with a job apart from marking paper. Job storage, job
+/// accounting with a personal list of account IDs, user login, job name, e-mail notification.
+///
+/// Each group keeps its widgets and rules in a class of its own; the page registers and connects
+/// them. Most of its values are no PPD options and exist as keys of the settings file only. Input
+/// is never refused with a message: a mark on the group's label tells what is wrong, and while it
+/// is there OK and Apply are held back.
+class JobTab : public Tab
+{
+    Q_OBJECT
+
+public:
+    explicit JobTab(PanelDialog *dialog);
+    ~JobTab() override;
+
+    void setTabName() override;
+    void createWidgets() override;
+    QIcon tabIcon() override;
+    QIcon tabConstraintIcon() override;
+    bool isAvailable() override;
+    void reload() override;
+    QHash<QString, QString> collectSettings() override;
+    QHash<QString, QString> extraSettings() override;
+    void clearMarks() override;
+    void beforeConstraints() override;
+    bool hasMarks() override;
+    void retranslate() override;
+    void markConstraintWidgets() override;
+
+private slots:
+    void verifyJobEmail();
+    void verifyjobName();
+    void verifyJobStorage();
+    void verifySpecificJobAccountID();
+    void verifyUserLogin();
+    void enableCustomJobNameSettings(int choice);
+    void toggleJobSettingsInput(const QString &text);
+    void toggleJobSettingsCheckBox(bool toggled);
+    void toggleUserLogin();
+    void loadCustomIDTable();
+    void customAccountIDDoubleClicked(int row, int column);
+    void checkCustomIDButtonStates();
+    /// OK of the dialog for one account, new or known.
+    void createNewCustomAccountID();
+    void deleteCustomAccountID();
+    void editCustomAccountID();
+    void jobEMailNotificationToggle(bool checked);
+    void showNewCustomAccountIDDialog();
+    void showCustomAccountIDDialog();
+    void saveTempAccountIDs();
+    void selectJobAccount();
+    void verifyJobStoragePasswordLineEdit();
+
+private:
+    void registerWidgets();
+    void createConnections();
+    void connectAccountList();
+    void createLayout();
+    static QGridLayout *createGrid();
+    QGridLayout *createStorageGrid();
+    QGridLayout *createNameGrid();
+    void addLine(QGridLayout *grid, int row, int columns);
+    void setPictures();
+    void loadJobSettings();
+    void hideErrors();
+    /// Marks a group's label with a message; an empty one takes the mark away.
+    void mark(QLabel *label, const QString &message);
+    void showAccountError(const QString &text);
+
+    std::unique_ptr<JobStorage> storage;
+    std::unique_ptr<JobAccounting> accounting;
+    std::unique_ptr<JobLogin> login;
+    std::unique_ptr<JobName> name;
+    std::unique_ptr<JobEmail> email;
+
+    AccountListDialog *accountList;
+    AccountEditDialog *accountEdit;
+    Accounts tempAccounts;    ///< what the list dialog edits, until its OK
+    bool isNewAccount = true; ///< the edit dialog was opened with New
+    QString editedAccountId;  ///< what the edit dialog started with; empty for New
+};

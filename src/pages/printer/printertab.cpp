@@ -1,0 +1,365 @@
+#include "pages/printer/printertab.h"
+
+#include "model/boption.h"
+#include "model/optionstore.h"
+#include "model/printqueues.h"
+#include "model/queueppd.h"
+#include "pages/base/paneldialog.h"
+#include "pages/printer/printertable.h"
+#include "storage/settingsfile.h"
+#include "widgets/comboboxex.h"
+#include "widgets/constraintmark.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+enum Column
+{
+    NameColumn,
+    DestinationColumn,
+    StatusColumn,
+    ColumnCount
+};
+
+constexpr int emptyColumnWidth = 186;
+constexpr int warningColumn = 3;
+
+void setCell(QTableWidget *table, int row, Column column, const QString &text)
+{
+    table->setItem(row, column, new QTableWidgetItem(text));
+}
+
+} // namespace
+
+PrinterTab::PrinterTab(PanelDialog *dialog)
+    : Tab(dialog)
+{
+    PrinterTab::createWidgets();
+}
+
+PrinterTab::~PrinterTab()
+{
+    currentStore = nullptr;
+}
+
+void PrinterTab::setTabName()
+{
+    tabName();
+}
+
+QIcon PrinterTab::tabIcon()
+{
+    return QIcon(QStringLiteral(":/icons/tab-printer"));
+}
+
+QIcon PrinterTab::tabConstraintIcon()
+{
+    return QIcon(QStringLiteral(":/icons/tab-printer-constraint"));
+}
+
+QTableWidget *PrinterTab::table() const
+{
+    return printerTable;
+}
+
+// Widgets
+
+void PrinterTab::createWidgets()
+{
+    setContentsMargins(3, 3, 3, 3);
+    tabName_ = tr("Printer");
+    createTable();
+
+    installedHeader = new QLabel(tr("Installed options"), this);
+    installedHeader->setEnabled(false);
+    rootWarning =
+        new QLabel(tr("Root access is required to make changes to installable options"), this);
+    rootWarning->setAccessibleName(QStringLiteral("lblRootWarning"));
+    styleRootWarning();
+    rootWarning->hide();
+    auto *headerGrid = new QGridLayout;
+    headerGrid->addWidget(installedHeader, 0, 0, 1, warningColumn, Qt::AlignLeft);
+    headerGrid->addWidget(rootWarning, 0, warningColumn, 1, 8, Qt::AlignLeft);
+
+    auto *scrollArea = new QScrollArea(this);
+    auto *installedArea = new QWidget(scrollArea);
+    installedGrid = new QGridLayout(installedArea);
+    installedGrid->setColumnStretch(2, 1);
+    installedGrid->setRowStretch(999, 1); // keeps all rows at the top
+    installedGrid->setSizeConstraint(QLayout::SetFixedSize);
+    scrollArea->setWidgetResizable(true);
+    scrollArea->setWidget(installedArea);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(printerTable);
+    layout->addLayout(headerGrid);
+    layout->addWidget(scrollArea);
+}
+
+void PrinterTab::styleRootWarning()
+{
+    // A border in the colour of the page can't be seen.
+    rootWarning->setStyleSheet(
+        QStringLiteral("QLabel{color: red; font-family: Sans; font-size: 10px; border-width: 1px; "
+                       "border-color: %1; border-style: solid}")
+            .arg(palette().color(backgroundRole()).name()));
+}
+
+void PrinterTab::createTable()
+{
+    printerTable = new PrinterTable(0, ColumnCount, this);
+    printerTable->setAccessibleName(QStringLiteral("tblPrinters"));
+    printerTable->setSelectionBehavior(QAbstractItemView::SelectRows);
+    printerTable->setSelectionMode(QAbstractItemView::SingleSelection);
+    printerTable->verticalHeader()->hide();
+    printerTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    printerTable->horizontalHeader()->setStretchLastSection(true);
+    printerTable->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    printerTable->setTabKeyNavigation(false);
+    setHeaders();
+    fillTable();
+    if (printerTable->rowCount() == 0) {
+        for (int column = 0; column < ColumnCount; ++column)
+            printerTable->setColumnWidth(column, emptyColumnWidth);
+    }
+    connect(printerTable, &QTableWidget::currentCellChanged, this, &PrinterTab::changePrinter);
+}
+
+void PrinterTab::setHeaders()
+{
+    const QString headers[] = {tr("Printers"), tr("Destination"), tr("Status")};
+    for (int column = 0; column < ColumnCount; ++column)
+        printerTable->setHorizontalHeaderItem(column, new QTableWidgetItem(headers[column]));
+}
+
+void PrinterTab::fillTable()
+{
+    knownPrinters.clear();
+    const QList<PrintQueue> queues = printQueues();
+    for (const PrintQueue &queue : queues) {
+        knownPrinters.insert(queue.name);
+        for (int rows = makerRowCount(queue.name); rows > 0; --rows) {
+            const int row = printerTable->rowCount();
+            printerTable->insertRow(row);
+            setCell(printerTable, row, NameColumn, queue.name);
+            setCell(printerTable, row, DestinationColumn, queue.deviceUri);
+        }
+    }
+    statusReader.startOver();
+    fillStatusColumn();
+    if (printerTable->rowCount() > 0) {
+        printerTable->resizeColumnsToContents();
+        printerTable->resizeRowsToContents();
+    }
+}
+
+QStringList PrinterTab::listedQueues() const
+{
+    QStringList names;
+    for (int row = 0; row < printerTable->rowCount(); ++row)
+        names.append(printerTable->item(row, NameColumn)->text());
+    return names;
+}
+
+void PrinterTab::fillStatusColumn()
+{
+    const QStringList statuses = statusReader.statuses(listedQueues());
+    for (int row = 0; row < statuses.size(); ++row)
+        setCell(printerTable, row, StatusColumn, statuses[row]);
+}
+
+void PrinterTab::reloadPrinterTable()
+{
+    const QSignalBlocker silent(printerTable);
+    const int row = printerTable->currentRow();
+    int widths[ColumnCount];
+    for (int column = 0; column < ColumnCount; ++column)
+        widths[column] = printerTable->columnWidth(column);
+    setBoundSignalsBlocked(true);
+
+    printerTable->clear();
+    printerTable->setRowCount(0);
+    setHeaders();
+    fillTable();
+    for (int column = 0; column < ColumnCount; ++column)
+        printerTable->setColumnWidth(column, widths[column]);
+    printerTable->selectRow(row);
+
+    setBoundSignalsBlocked(false);
+}
+
+void PrinterTab::clearPrinterSelection()
+{
+    const QSignalBlocker silent(printerTable);
+    printerTable->clearSelection();
+    // So that a click selects any row again, also the one that was current.
+    printerTable->setCurrentCell(-1, -1);
+    removeInstalledOptions();
+    printerTable->verticalScrollBar()->setValue(0);
+    installedHeader->setEnabled(false);
+}
+
+void PrinterTab::retranslate()
+{
+    setHeaders();
+    tabName_ = tr("Printer");
+    fillStatusColumn();
+    styleRootWarning(); // the window has given the page its colours since it was made
+    rootWarning->setText(tr("Root access is required to make changes to installable options"));
+    installedHeader->setText(tr("Installed options"));
+    installedHeader->update();
+}
+
+// Selecting a printer
+
+void PrinterTab::changePrinter(int row, int, int prev_row, int)
+{
+    if (row == prev_row)
+        return;
+    const QTableWidgetItem *item = printerTable->item(row, NameColumn);
+    const QString name = item ? item->text() : QString();
+
+    currentStore = nullptr;
+    if (queueNames().contains(name)) {
+        // Without a PPD that can be read there is no store, and the pages show nothing.
+        if (std::unique_ptr<OptionStore> store = QueuePpd(name).makeStore()) {
+            store->setPrinterName(name);
+            currentStore = store.get();
+            stores.push_back(std::move(store));
+        }
+    }
+    if (!currentStore)
+        rootWarning->hide();
+    currentCfgPath = currentStore ? cfgPath(currentStore->printerName()) : QString();
+}
+
+void PrinterTab::reload()
+{
+    setBoundSignalsBlocked(true);
+    createInstalledOptions();
+    setTabName();
+    savedSettings.clear();
+    clearMarks();
+    applyLabels();
+    installedHeader->setEnabled(true);
+    installedHeader->setText(tr("Installed options"));
+    loadOptions();
+    applyAllWidgets();
+    connectBoundWidgets();
+    recordInstalledValues();
+    enableOptions();
+    setBoundSignalsBlocked(false);
+}
+
+void PrinterTab::refreshPage()
+{
+    setBoundSignalsBlocked(true);
+    constraintWidgets.clear();
+    savedSettings.clear();
+    clearMarks();
+    applyAllWidgets();
+    setBoundSignalsBlocked(false);
+}
+
+// Installed options
+
+void PrinterTab::createInstalledOptions()
+{
+    if (!currentStore)
+        return;
+    removeInstalledOptions();
+    const QList<bOption *> options = currentStore->installedOptions();
+    for (const bOption *option : options)
+        addInstalledOption(option);
+}
+
+void PrinterTab::removeInstalledOptions()
+{
+    for (const WidgetMap *map : {&boundWidgets, &markWidgets}) {
+        for (const auto &[keyword, widget] : *map) {
+            widget->hide();
+            installedGrid->removeWidget(widget);
+            widget->deleteLater(); // one of them may have sent the signal that led here
+        }
+    }
+    boundWidgets.clear();
+    markWidgets.clear();
+    installedRowCount = 0;
+}
+
+void PrinterTab::addInstalledOption(const bOption *option)
+{
+    const QString margin = QStringLiteral("margin-bottom: 8px");
+    if (option->hasChoice(QStringLiteral("False")) && option->hasChoice(QStringLiteral("True"))) {
+        auto *box = new QCheckBox(option->text());
+        box->setAccessibleName(QStringLiteral("chkBx") + option->key());
+        box->setStyleSheet(margin);
+        boundWidgets.insert(option->key(), box);
+        markWidgets.insert(option->key(), box);
+        installedGrid->addWidget(box, installedRowCount++, 0, Qt::AlignLeft);
+        return;
+    }
+    auto *label = new QLabel;
+    ConstraintMark::setPlainText(label, option->text());
+    label->setAccessibleName(QStringLiteral("lbl") + option->key());
+    auto *box = new ComboBoxEx;
+    box->setAccessibleName(QStringLiteral("cmbBx") + option->key());
+    box->setStyleSheet(margin);
+    boundWidgets.insert(option->key(), box);
+    markWidgets.insert(option->key(), label);
+    installedGrid->addWidget(label, installedRowCount++, 0, Qt::AlignLeft | Qt::AlignBottom);
+    installedGrid->addWidget(box, installedRowCount++, 0, Qt::AlignLeft | Qt::AlignTop);
+}
+
+void PrinterTab::connectComboBox(ComboBoxEx *box)
+{
+    box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    const auto changed = qOverload<int>(&QComboBox::currentIndexChanged);
+    connect(box, changed, this, qOverload<int>(&Tab::markOption), Qt::UniqueConnection);
+    connect(box, changed, this, &PrinterTab::checkForChanges, Qt::UniqueConnection);
+    connect(box, changed, this, &Tab::enableOptions, Qt::UniqueConnection);
+    connect(box, changed, dialog, &PanelDialog::setConstraints, Qt::UniqueConnection);
+}
+
+void PrinterTab::connectCheckBox(QCheckBox *box)
+{
+    const auto changed = &QCheckBox::stateChanged;
+    connect(box, changed, this, qOverload<int>(&Tab::markOption), Qt::UniqueConnection);
+    connect(box, changed, this, &PrinterTab::checkForChanges, Qt::UniqueConnection);
+    connect(box, changed, this, &Tab::enableOptions, Qt::UniqueConnection);
+    connect(box, changed, dialog, &PanelDialog::setConstraints, Qt::UniqueConnection);
+}
+
+QString PrinterTab::installedValue(const QWidget *widget)
+{
+    if (const auto *check = qobject_cast<const QCheckBox *>(widget))
+        return check->isChecked() ? QStringLiteral("True") : QStringLiteral("False");
+    const auto *box = qobject_cast<const ComboBoxEx *>(widget);
+    return box ? box->currentText() : QString();
+}
+
+void PrinterTab::recordInstalledValues()
+{
+    for (const auto &[keyword, widget] : boundWidgets)
+        installedValues.insert(keyword, installedValue(widget));
+    installedChanged = false;
+    rootWarning->hide();
+}
+
+void PrinterTab::checkForChanges(int)
+{
+    installedChanged = std::any_of(
+        boundWidgets.begin(), boundWidgets.end(), [this](const WidgetMap::Entry &entry) {
+            return installedValue(entry.second) != installedValues.value(entry.first);
+        });
+    rootWarning->setVisible(installedChanged);
+}

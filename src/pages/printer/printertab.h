@@ -1,0 +1,79 @@
+#pragma once
+
+#include "model/printerstatus.h"
+#include "pages/base/tab.h"
+
+#include <memory>
+#include <vector>
+
+class OptionStore;
+class PrinterTable;
+class QGridLayout;
+class QLabel;
+class QTableWidget;
+
+/// The page "Printer": the queues of the maker's printers in a table, and the selected one's
+/// installed options.
+///
+/// Selecting a row makes a new OptionStore the current one. The page keeps every store that it has
+/// made, so that nothing which still points into an older one dangles. A change of an installed
+/// option is no setting of the user: the page only reports it.
+class PrinterTab : public Tab
+{
+    Q_OBJECT
+
+public:
+    explicit PrinterTab(PanelDialog *dialog);
+    ~PrinterTab() override;
+
+    void setTabName() override;
+    void createWidgets() override;
+    void connectComboBox(ComboBoxEx *box) override;
+    void connectCheckBox(QCheckBox *box) override;
+    QIcon tabIcon() override;
+    QIcon tabConstraintIcon() override;
+    bool isAvailable() override { return true; }
+    void reload() override;
+    void retranslate() override;
+
+    /// A reload that keeps the widgets of the installed options.
+    virtual void refreshPage();
+
+    /// The list of queues; its currentCellChanged() is the selection of a printer.
+    QTableWidget *table() const;
+    /// True while an installed option differs from what the printer's PPD says.
+    bool installedOptionsChanged() const { return installedChanged; }
+    /// Takes what the page shows as what the PPD says.
+    void recordInstalledValues();
+    /// Asks the print system for its queues anew. The same row number stays selected, and no
+    /// printer change comes of it.
+    void reloadPrinterTable();
+    /// Shows that no printer is selected.
+    void clearPrinterSelection();
+
+public slots:
+    void changePrinter(int row, int collumn, int prev_row, int prev_collumn);
+    void checkForChanges(int value);
+
+private:
+    void createTable();
+    void styleRootWarning();
+    void setHeaders();
+    void fillTable();
+    void fillStatusColumn();
+    QStringList listedQueues() const;
+    void createInstalledOptions();
+    void addInstalledOption(const bOption *option);
+    void removeInstalledOptions();
+    static QString installedValue(const QWidget *widget);
+
+    PrinterTable *printerTable;
+    QLabel *installedHeader;
+    QLabel *rootWarning;
+    QGridLayout *installedGrid;
+    int installedRowCount = 0;
+    QHash<QString, QString> installedValues; ///< as last loaded or written
+    bool installedChanged = false;
+    PrinterStatusReader statusReader;
+    std::vector<std::unique_ptr<OptionStore>> stores;
+};

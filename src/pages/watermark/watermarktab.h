@@ -1,0 +1,93 @@
+#pragma once
+
+#include "pages/base/pagewidgets.h"
+#include "pages/base/tab.h"
+#include "pages/watermark/watermarkrecords.h"
+
+#include <QMap>
+
+#include <array>
+
+class QFrame;
+class QGridLayout;
+class QLineEdit;
+class QPushButton;
+
+/// The page "Watermark": a text across each page, one of the printer's or the user's own, and the
+/// super watermark.
+///
+/// The user's own texts stand behind a separator in the list of texts. Each has a look of its own,
+/// kept in the settings file; any other text comes up with the same fixed look. The name field
+/// below shows the selected own text, and new ones are typed there.
+class WatermarkTab : public Tab
+{
+    Q_OBJECT
+
+public:
+    explicit WatermarkTab(PanelDialog *dialog);
+
+    void setTabName() override;
+    void createWidgets() override;
+    void beforeLoad() override;
+    QIcon tabIcon() override;
+    QIcon tabConstraintIcon() override;
+    bool isAvailable() override;
+    void reload() override;
+    QHash<QString, QString> collectSettings() override;
+    /// One entry for each custom watermark, all under the same key.
+    QHash<QString, QString> extraSettings() override;
+    void retranslate() override;
+
+private slots:
+    /// Enables the buttons by what the name field holds.
+    void handleCustomWatermarkTextEdit();
+    void createNewCustomWatermark();
+    void deleteCustomWatermark();
+    void editCustomWatermark();
+    /// Shows the look of the selected text.
+    void handleWatermarkSelection(const QString &name);
+    void toggleWatermarkSection(bool on);
+    void toggleSuperWatermark(bool on);
+
+private:
+    void registerWidgets();
+    void createConnections();
+    void createLayout();
+    void createLookGrid();
+    QGridLayout *createTextGrid();
+
+    void loadSwitches();
+    void removeCustomItem();
+    void addColorItem();
+    void loadStore();
+    void addDefaultWatermark();
+    void selectSavedText();
+
+    void rebuildTextList();
+    int textIndex(const QString &text) const;
+    bool isCustom(const QString &text) const;
+
+    Watermark::Look shownLook() const;
+    void showLook(const Watermark::Look &look);
+    void showColor(int index);
+    void showIndex(int feature, int index);
+    void setSectionEnabled(bool on);
+    void applySection();
+
+    QFrame *section = nullptr; ///< switch, text and look
+    QLabel *heading = nullptr;
+    BixCheckBoxButton *watermarkButton = nullptr;
+    PageWidgets::LabeledComboBox text;
+    std::array<PageWidgets::LabeledComboBox, Watermark::Repeat> features; ///< by Watermark::Feature
+    QCheckBox *repeatBox = nullptr;
+    QLabel *customLabel = nullptr;
+    QLineEdit *customEdit = nullptr;
+    QPushButton *newButton = nullptr;
+    QPushButton *saveButton = nullptr;
+    QPushButton *deleteButton = nullptr;
+    QLabel *superHeading = nullptr;
+    BixCheckBoxButton *superButton = nullptr;
+    ComboBoxEx *superBox = nullptr;
+
+    QMap<QString, Watermark::Look> customWatermarks; ///< by name, in the order of the list
+};

@@ -1,0 +1,85 @@
+#include "profiles/profileformdialog.h"
+
+#include "profiles/profilerules.h"
+#include "profiles/profilestore.h"
+
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegExpValidator>
+#include <QTextEdit>
+
+namespace {
+
+constexpr QSize leastSize(350, 200);
+constexpr QSize largestDescription(400, 50);
+
+} // namespace
+
+ProfileFormDialog::ProfileFormDialog(const QString &descriptionLabel, QWidget *parent)
+    : QDialog(parent)
+    , nameEdit(new QLineEdit(this))
+    , descriptionEdit(new QTextEdit(this))
+    , buttonBox(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
+{
+    setWindowModality(Qt::WindowModal);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    // Characters here; how many bytes they take is part of the check.
+    nameEdit->setValidator(new QRegExpValidator(QRegExp(QStringLiteral(".{,251}")), nameEdit));
+    descriptionEdit->setAcceptRichText(false);
+    descriptionEdit->setMaximumSize(largestDescription);
+    descriptionEdit->setTabChangesFocus(true);
+    buttonBox->button(QDialogButtonBox::Ok)->setEnabled(false);
+    createLayout(descriptionLabel);
+
+    connect(buttonBox, &QDialogButtonBox::rejected, this, &ProfileFormDialog::close);
+}
+
+void ProfileFormDialog::createLayout(const QString &descriptionLabel)
+{
+    auto *nameLabel = new QLabel(tr("Name:"), this);
+    nameLabel->setBuddy(nameEdit); // names it for screen readers
+    auto *label = new QLabel(descriptionLabel, this);
+    label->setBuddy(descriptionEdit);
+
+    auto *grid = new QGridLayout(this);
+    grid->setSizeConstraint(QLayout::SetFixedSize);
+    grid->addWidget(nameLabel, 1, 1);
+    grid->addWidget(nameEdit, 2, 1);
+    grid->addWidget(label, 7, 1);
+    grid->addWidget(descriptionEdit, 8, 1);
+    grid->addWidget(buttonBox, 10, 1);
+    // A window of fixed size goes by its layout alone.
+    grid->setColumnMinimumWidth(1, leastSize.width());
+    grid->setRowMinimumHeight(9, qMax(0, leastSize.height() - grid->sizeHint().height()));
+}
+
+void ProfileFormDialog::setFields(const QString &name, const QString &description)
+{
+    nameEdit->setText(name);
+    descriptionEdit->setPlainText(description);
+    nameEdit->setFocus();
+}
+
+QString ProfileFormDialog::name() const
+{
+    return nameEdit->text();
+}
+
+QString ProfileFormDialog::description() const
+{
+    return storedDescription(descriptionEdit->toPlainText());
+}
+
+void ProfileFormDialog::refreshQueueNames()
+{
+    queueNames = queuesWithPpd();
+}
+
+void ProfileFormDialog::checkFields()
+{
+    buttonBox->button(QDialogButtonBox::Ok)
+        ->setEnabled(isValidProfile(name(), descriptionEdit->toPlainText(), queueNames));
+}

@@ -1,0 +1,51 @@
+#include "profiles/profilerules.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr int longestName = 251; // bytes; with ".cfg" it is the longest name that Linux takes
+constexpr int longestDescription = 1024;
+
+// The factory entry's translations, so that no profile looks like it under another language.
+constexpr const char *reservedNames[] = {
+    "Factory Default",       "Paramètres du fabricant",         "Werkseinstellung",
+    "Impostazioni fabbrica", "Valor predeterminado de fábrica", "Padrão de fábrica",
+};
+
+constexpr char forbiddenCharacters[] = "/\"`;";
+
+const QLatin1String storedLineFeed("\\n");
+
+} // namespace
+
+bool isReservedProfileName(const QString &name)
+{
+    const QString simplified = name.simplified();
+    return std::any_of(
+        std::begin(reservedNames), std::end(reservedNames), [&simplified](const char *reserved) {
+            return simplified.compare(QString::fromUtf8(reserved), Qt::CaseInsensitive) == 0;
+        });
+}
+
+bool isValidProfile(const QString &name, const QString &description, const QStringList &queues)
+{
+    const auto forbidden = [](QChar character) {
+        return QLatin1String(forbiddenCharacters).contains(character);
+    };
+    return !name.isEmpty() && !isReservedProfileName(name) &&
+           !queues.contains(name, Qt::CaseInsensitive) && !name.startsWith(QLatin1Char('.')) &&
+           std::none_of(name.begin(), name.end(), forbidden) &&
+           description.size() <= longestDescription && name.toUtf8().size() <= longestName;
+}
+
+QString storedDescription(QString description)
+{
+    return description.replace(QLatin1Char('\n'), storedLineFeed);
+}
+
+QString shownDescription(QString stored)
+{
+    return stored.replace(storedLineFeed, QLatin1String("\n"));
+}

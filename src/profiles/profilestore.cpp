@@ -1,0 +1,131 @@
+#include "profiles/profilestore.h"
+
+#include "storage/command.h"
+#include "storage/settingsfile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTextStream>
+
+namespace {
+
+constexpr int mostProfiles = 25;
+constexpr qint64 longestProfile = 1 << 20; // bytes
+
+const QLatin1String mark("[Profile]");
+const QLatin1String ending(".cfg");
+
+/// True if the mark is an entry of its own: a whole line, or the key of a line with one "=".
+bool hasMarkLine(const QByteArray &text)
+{
+    QTextStream stream(text);
+    stream.setCodec("UTF-8");
+    QString line;
+    while (stream.readLineInto(&line)) {
+        if (line == mark || (line.count(QLatin1Char('=')) == 1 &&
+                             line.leftRef(line.indexOf(QLatin1Char('='))) == mark))
+            return true;
+    }
+    return false;
+}
+
+/// A path as one argument of a command line: in double quotes, where three stand for one.
+QString quoted(QString path)
+{
+    path.replace(QLatin1Char('"'), QLatin1String("\"\"\""));
+    return QLatin1Char('"') + path + QLatin1Char('"');
+}
+
+void run(const QString &command)
+{
+    QProcess process;
+    runCommand(&process, command);
+}
+
+bool copyWithDescription(QFile *from, QFile *to, const QByteArray &description)
+{
+    // An empty line ends with its line feed, so nothing at all is the end or an error.
+    for (QByteArray line = from->readLine(); !line.isEmpty(); line = from->readLine()) {
+        if (line.endsWith('\n'))
+            line.chop(1);
+        if (line.contains("ProfileDescription"))
+            line = "ProfileDescription=" + description;
+        to->write(line + '\n');
+    }
+    to->flush();
+    return from->error() == QFileDevice::NoError && to->error() == QFileDevice::NoError;
+}
+
+} // namespace
+
+QString profilePath(const QString &name)
+{
+    return name.isEmpty() ? userDir : cfgPath(name);
+}
+
+QStringList profileNames()
+{
+    QStringList names;
+    const QStringList files =
+        QDir(userDir).entryList({QLatin1Char('*') + ending}, QDir::Files | QDir::CaseSensitive);
+    for (const QString &file : files) {
+        if (hasMarkLine(readProfileText(userDir + file)))
+            names.append(file.chopped(ending.size()));
+    }
+    return names;
+}
+
+bool isProfileStoreFull()
+{
+    int count = 0;
+    const QStringList files = QDir(userDir).entryList(QDir::Files);
+    for (const QString &file : files) {
+        if (readProfileText(userDir + file).contains(mark.data()) && ++count >= mostProfiles)
+            return true;
+    }
+    return false;
+}
+
+QByteArray readProfileText(const QString &path)
+{
+    QFile file(path);
+    // A pipe or a device, be it behind a link, would hold up the panel for ever.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return QByteArray();
+    return file.read(longestProfile);
+}
+
+void removeProfile(const QString &path)
+{
+    run(QStringLiteral("rm -f ") + quoted(path));
+}
+
+void rewriteProfile(const QString &oldName, const QString &newName, const QString &description)
+{
+    QFile from(cfgPath(oldName));
+    QFile to(userDir + newName + QStringLiteral(".tmp"));
+    if (!QFileInfo(from).isFile() || !from.open(QIODevice::ReadOnly) ||
+        !to.open(QIODevice::WriteOnly))
+        return;
+    // With a full disk the profile is worth more than its new description.
+    if (!copyWithDescription(&from, &to, description.toUtf8())) {
+        to.remove();
+        return;
+    }
+    from.remove();
+    to.close();
+    run(QStringLiteral("mv ") + quoted(to.fileName()) + QLatin1Char(' ') +
+        quoted(cfgPath(newName)));
+}
+
+QStringList queuesWithPpd()
+{
+    QStringList queues;
+    const QStringList files =
+        QDir(QStringLiteral("/etc/cups/ppd")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    for (const QString &file : files)
+        queues.append(QFileInfo(file).baseName());
+    return queues;
+}

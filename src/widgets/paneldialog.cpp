@@ -1,3 +1,0 @@
-#include "widgets/paneldialog.h"
-
-bool constraintsClear = false;
