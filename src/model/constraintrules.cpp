@@ -1,6 +1,7 @@
 #include "model/constraintrules.h"
 
 #include "model/boption.h"
+#include "model/maker.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 
@@ -216,7 +217,7 @@ void addFixedGroupRules(OptionStore *store)
 
 void addDerivedRules(OptionStore *store)
 {
-    const QString storage = QStringLiteral("Option18");
+    const QString storage = QLatin1String(Maker::jobStorageUnit);
     const QString none = QStringLiteral("None");
 
     // What needs collation can't be had without the storage that collation needs.

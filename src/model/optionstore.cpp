@@ -1,17 +1,12 @@
 #include "model/optionstore.h"
 
 #include "model/boption.h"
+#include "model/maker.h"
 #include "model/optionchoice.h"
 
 OptionStore *currentStore = nullptr;
 
 namespace {
-
-// In the order of the Printer page.
-constexpr const char *installedKeywords[] = {
-    "Option17", "Option8",  "Option18", "Option19", "Option20", "Option01",
-    "Option21", "Option22", "Option25", "Option26", "Option27",
-};
 
 /// Orders a three-way rule. The three tests run one after the other: options of equal priority pass
 /// several of them, and the longer lists that come out of it decide which value is the target.
@@ -105,7 +100,7 @@ void OptionStore::releaseAllConstraints()
 QList<bOption *> OptionStore::installedOptions() const
 {
     QList<bOption *> found;
-    for (const char *keyword : installedKeywords) {
+    for (const char *keyword : Maker::installedKeywords) {
         if (bOption *option = find(QLatin1String(keyword)))
             found.append(option);
     }

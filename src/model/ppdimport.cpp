@@ -2,6 +2,7 @@
 
 #include "model/boption.h"
 #include "model/constraintrules.h"
+#include "model/maker.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "model/syntheticoptions.h"
@@ -15,9 +16,10 @@ namespace {
 void detectFilters(const ppd_file_t *ppd, OptionStore *store)
 {
     for (int i = 0; i < ppd->num_filters; ++i) {
-        const char *filter = ppd->filters[i];
-        if (std::strstr(filter, "ras") || std::strstr(filter, "pdf"))
-            store->setRasterOrPdfFilter(true);
+        for (const char *mark : Maker::rasterOrPdfMarks) {
+            if (std::strstr(ppd->filters[i], mark))
+                store->setRasterOrPdfFilter(true);
+        }
     }
     store->setModelName(QString::fromUtf8(ppd->modelname));
 }

@@ -1,5 +1,6 @@
 #include "model/queueppd.h"
 
+#include "model/maker.h"
 #include "model/optionstore.h"
 #include "model/ppdimport.h"
 
@@ -13,9 +14,6 @@
 
 namespace {
 
-constexpr const char *makerNames[] = {"Brixola", "NV_RATEX"};
-constexpr const char *makerFilters[] = {"bixfilter_F", "bixfilter_ras_F", "bixfilter_pdf_F"};
-
 bool contains(const char *text, const char *part)
 {
     return text && std::strstr(text, part) != nullptr;
@@ -23,7 +21,7 @@ bool contains(const char *text, const char *part)
 
 bool isMaker(const char *manufacturer)
 {
-    for (const char *name : makerNames) {
+    for (const char *name : Maker::brands) {
         if (manufacturer && std::strcmp(manufacturer, name) == 0)
             return true;
     }
@@ -32,7 +30,7 @@ bool isMaker(const char *manufacturer)
 
 bool isMakerFilter(const char *line)
 {
-    for (const char *filter : makerFilters) {
+    for (const char *filter : Maker::filters) {
         if (contains(line, filter))
             return true;
     }
@@ -49,7 +47,7 @@ bool namesMaker(const QByteArray &path)
     // libcups reads compressed PPDs too (RFC 1952); their text can't be judged from here.
     if (text.startsWith("\x1f\x8b"))
         return true;
-    for (const char *name : makerNames) {
+    for (const char *name : Maker::brands) {
         if (text.contains(name))
             return true;
     }
@@ -98,7 +96,7 @@ int QueuePpd::makerFilterCount() const
     if (!ppd_ || !isMaker(ppd_->manufacturer))
         return 0;
     const ppd_attr_t *device = ppdFindAttr(ppd_, "1284DeviceID", nullptr);
-    if (!device || !contains(device->value, "MFG:Brix"))
+    if (!device || !contains(device->value, Maker::deviceId))
         return 0;
     int count = 0;
     for (int i = 0; i < ppd_->num_filters; ++i)

@@ -1,6 +1,7 @@
 #include "profiles/profilereader.h"
 
 #include "model/boption.h"
+#include "model/maker.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "model/ppdimport.h"
@@ -9,10 +10,11 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QTextStream>
 
+#include <algorithm>
 #include <functional>
+#include <iterator>
 #include <map>
 #include <memory>
 
@@ -167,9 +169,10 @@ QString shownText(const OptionStore *store, const QString &key, const QString &v
 
 bool namesModel(const QString &line)
 {
-    static const QRegularExpression brands(
-        QStringLiteral("^\\[Brixola.*\\]$|^\\[NV.*\\]$|^\\[Sorbelli.*\\]$"));
-    return !line.contains(QLatin1String("Profile")) && brands.match(line).hasMatch();
+    return !line.contains(QLatin1String("Profile")) && line.endsWith(QLatin1Char(']')) &&
+           std::any_of(
+               std::begin(Maker::modelLineStarts), std::end(Maker::modelLineStarts),
+               [&line](const char *start) { return line.startsWith(QLatin1String(start)); });
 }
 
 std::unique_ptr<OptionStore> importModel(const QString &modelLine)

@@ -1,6 +1,7 @@
 #include "pages/job/storagerules.h"
 
 #include "model/boption.h"
+#include "model/maker.h"
 #include "model/optionstore.h"
 
 #include <algorithm>
@@ -61,7 +62,7 @@ StorageOffers storageOffers(const OptionStore &store)
         return {StorageOffer::Remove, StorageOffer::Remove};
 
     StorageOffers offers;
-    const bOption *installed = store.find(QStringLiteral("Option18"));
+    const bOption *installed = store.find(QLatin1String(Maker::jobStorageUnit));
     if (!installed || !installed->current())
         return offers;
     const QString storage = installed->currentKey();
