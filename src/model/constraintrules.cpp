@@ -1,6 +1,7 @@
 #include "model/constraintrules.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/maker.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
@@ -138,8 +139,7 @@ void addInterleavingMediaRules(OptionStore *store)
     const QList<OptionChoice *> choices = media->choiceList();
     for (const OptionChoice *choice : choices) {
         if (choice->key() != QLatin1String("Transparency"))
-            store->addConstraint(QStringLiteral("cIntBut"), QStringLiteral("True"), media->key(),
-                                 choice->key());
+            store->addConstraint(QStringLiteral("cIntBut"), Keys::yes, media->key(), choice->key());
     }
 }
 
@@ -147,15 +147,14 @@ void addInterleavingMediaRules(OptionStore *store)
 /// style, the panel blocks the mode as a whole, whatever the style.
 Value ruleValue(const QString &option, const QString &choice)
 {
-    const QString on = QStringLiteral("True");
     if (choice == QLatin1String("Bifold"))
-        return {QStringLiteral("cBiFld"), on};
+        return {QStringLiteral("cBiFld"), Keys::yes};
     if (choice == QLatin1String("Trifold"))
-        return {QStringLiteral("cTriFld"), on};
+        return {QStringLiteral("cTriFld"), Keys::yes};
     if (option == QLatin1String("Stpl"))
-        return {QStringLiteral("cStpl"), on};
+        return {QStringLiteral("cStpl"), Keys::yes};
     if (option == QLatin1String("Pnch"))
-        return {QStringLiteral("cHole"), on};
+        return {QStringLiteral("cHole"), Keys::yes};
     return {option, choice};
 }
 
@@ -218,14 +217,13 @@ void addFixedGroupRules(OptionStore *store)
 void addDerivedRules(OptionStore *store)
 {
     const QString storage = QLatin1String(Maker::jobStorageUnit);
-    const QString none = QStringLiteral("None");
 
     // What needs collation can't be had without the storage that collation needs.
     const bOption *collation = store->find(QStringLiteral("Coll"));
     const bOption *storageOption = store->find(storage);
     if (collation && storageOption) {
-        if (const OptionChoice *off = collation->findChoice(QStringLiteral("False")))
-            copyWeakerConflicts(store, off, storageOption, storage, none);
+        if (const OptionChoice *off = collation->findChoice(Keys::no))
+            copyWeakerConflicts(store, off, storageOption, storage, Keys::none);
     }
 
     // Duplex that a policy forces has the conflicts of duplex itself.
@@ -235,17 +233,17 @@ void addDerivedRules(OptionStore *store)
         for (const char *side : {"DuplexTumble", "DuplexNoTumble"}) {
             if (const OptionChoice *choice = duplex->findChoice(QLatin1String(side)))
                 copyWeakerConflicts(store, choice, forcedDuplex, QStringLiteral("FKPDuplex"),
-                                    QStringLiteral("On"));
+                                    Keys::on);
         }
     }
 
     if (const bOption *jobStorage = store->find(QStringLiteral("BXCollate1"))) {
         const QList<OptionChoice *> choices = jobStorage->choiceList();
         for (const OptionChoice *choice : choices) {
-            if (choice->key() != none)
-                store->addConstraint(storage, none, jobStorage->key(), choice->key());
+            if (choice->key() != Keys::none)
+                store->addConstraint(storage, Keys::none, jobStorage->key(), choice->key());
         }
     }
-    store->addConstraint(storage, none, QStringLiteral("cPrivatePrint"), QStringLiteral("True"));
-    store->addConstraint(storage, none, QStringLiteral("cCustomBox"), QStringLiteral("True"));
+    store->addConstraint(storage, Keys::none, QStringLiteral("cPrivatePrint"), Keys::yes);
+    store->addConstraint(storage, Keys::none, QStringLiteral("cCustomBox"), Keys::yes);
 }

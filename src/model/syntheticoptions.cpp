@@ -2,6 +2,7 @@
 
 #include "model/boption.h"
 #include "model/constraintrules.h"
+#include "model/keys.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 
@@ -67,8 +68,8 @@ constexpr SwitchRow policySwitches[] = {
 void addSwitch(OptionStore *store, const SwitchRow &row)
 {
     auto option = std::make_unique<bOption>(QLatin1String(row.key), QLatin1String(row.text));
-    for (const char *value : {"False", "True"})
-        option->addChoice(QLatin1String(value), QLatin1String(value));
+    for (const QLatin1String value : {Keys::no, Keys::yes})
+        option->addChoice(value, value);
     store->insert(option.release());
 }
 
@@ -76,7 +77,7 @@ void addSwitch(OptionStore *store, const SwitchRow &row)
 void inherit(OptionStore *store, const char *key, const QList<OptionRef> &conflicts)
 {
     for (const OptionRef &other : conflicts)
-        store->addConstraint(QLatin1String(key), QStringLiteral("True"), other.option->key(),
+        store->addConstraint(QLatin1String(key), Keys::yes, other.option->key(),
                              other.choice->key());
 }
 
@@ -94,7 +95,7 @@ QList<OptionRef> commonConflicts(const bOption *styles)
     QList<OptionRef> common;
     const QList<OptionChoice *> choices = styles->choiceList();
     for (const OptionChoice *choice : choices) {
-        if (choice->key() == QLatin1String("None"))
+        if (choice->key() == Keys::none)
             continue;
         const QList<OptionRef> own = choice->pairConstraintList();
         if (common.isEmpty()) {
@@ -123,7 +124,7 @@ bool isAnnounced(ppd_file_t *ppd, const JobRow &row)
     const ppd_attr_t *attribute = ppdFindAttr(ppd, row.keyword, nullptr);
     if (!attribute || row.how == Announced::ByAttribute)
         return attribute != nullptr;
-    return attribute->value && std::strcmp(attribute->value, "True") == 0;
+    return attribute->value && std::strcmp(attribute->value, Keys::yes.data()) == 0;
 }
 
 } // namespace
@@ -139,8 +140,8 @@ void addFinishingModes(ppd_file_t *ppd, OptionStore *store)
         addSwitch(store, {"cTriFld", "Tri-fold Mode"});
         inheritFromFold(store, "cBiFld", "Bifold");
         inheritFromFold(store, "cTriFld", "Trifold");
-        store->addConstraint(QStringLiteral("cTriFld"), QStringLiteral("True"),
-                             QStringLiteral("cBiFld"), QStringLiteral("True"));
+        store->addConstraint(QStringLiteral("cTriFld"), Keys::yes, QStringLiteral("cBiFld"),
+                             Keys::yes);
     }
     if (punches)
         addStyleMode(store, {"cHole", "Punch Mode"}, "Pnch");
@@ -163,8 +164,8 @@ void addJobOptions(ppd_file_t *ppd, OptionStore *store)
         if (isAnnounced(ppd, row))
             addSwitch(store, row.option);
     }
-    store->addConstraint(QStringLiteral("cJobAccount"), QStringLiteral("True"),
-                         QStringLiteral("cUserLogin"), QStringLiteral("True"));
+    store->addConstraint(QStringLiteral("cJobAccount"), Keys::yes, QStringLiteral("cUserLogin"),
+                         Keys::yes);
 }
 
 void addSuperWatermark(ppd_file_t *ppd, OptionStore *store)
@@ -179,8 +180,8 @@ void addPolicyOptions(OptionStore *store)
     const QString on = QCoreApplication::translate("OptionStore", "On");
     for (const SwitchRow &row : policySwitches) {
         auto option = std::make_unique<bOption>(QLatin1String(row.key), QLatin1String(row.text));
-        option->addChoice(QStringLiteral("Off"), off);
-        option->addChoice(QStringLiteral("On"), on);
+        option->addChoice(Keys::off, off);
+        option->addChoice(Keys::on, on);
         store->insert(option.release());
     }
 }

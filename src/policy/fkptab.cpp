@@ -1,5 +1,6 @@
 #include "policy/fkptab.h"
 
+#include "model/keys.h"
 #include "model/optionstore.h"
 #include "pages/base/pagewidgets.h"
 #include "pages/base/paneldialog.h"
@@ -46,11 +47,6 @@ constexpr PageWidgets::ButtonRow switchButtons[] = {
     {QT_TRANSLATE_NOOP("FKPTab", "Off"), ":/icons/fkp-off"},
     {QT_TRANSLATE_NOOP("FKPTab", "On"), ":/icons/fkp-on"},
 };
-
-QString onOff(bool on)
-{
-    return on ? QStringLiteral("On") : QStringLiteral("Off");
-}
 
 QString settingFor(bool on)
 {
@@ -205,13 +201,13 @@ void FKPTab::enableFields()
 void FKPTab::switchOptions()
 {
     if (currentStore)
-        currentStore->setCurrentByKey(toggleOption, onOff(isOn()));
+        currentStore->setCurrentByKey(toggleOption, Keys::onOrOff(isOn()));
     if (isOn() && portEdit->text().isEmpty())
         portEdit->setText(defaultPort);
     if (isOn() || !currentStore)
         return;
     for (const QLatin1String &option : {colorOption, leanprintOption, duplexOption})
-        currentStore->setCurrentByKey(option, onOff(false));
+        currentStore->setCurrentByKey(option, Keys::off);
 }
 
 void FKPTab::toggleNotifications()
@@ -288,7 +284,7 @@ void FKPTab::applyPolicies()
         return;
     for (const QLatin1String &option : {colorOption, leanprintOption, duplexOption}) {
         currentStore->setCurrentByKey(option, policies[option]);
-        if (option == colorOption && policies[option] == onOff(true))
+        if (option == colorOption && policies[option] == Keys::on)
             emit_colorchanged();
     }
 }

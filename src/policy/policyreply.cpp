@@ -1,5 +1,7 @@
 #include "policy/policyreply.h"
 
+#include "model/keys.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -29,7 +31,7 @@ Policies PolicyReply::noRestrictions()
 {
     Policies policies;
     for (const PolicyRow &row : policyRows)
-        policies.insert(QLatin1String(row.option), QStringLiteral("Off"));
+        policies.insert(QLatin1String(row.option), Keys::off);
     return policies;
 }
 
@@ -63,8 +65,7 @@ bool PolicyReply::parsePolicies(const QString &body, Policies *policies)
         if (value.isUndefined())
             continue;
         const bool restricted = value.toString() == QLatin1String(row.restricted);
-        policies->insert(QLatin1String(row.option),
-                         restricted ? QStringLiteral("On") : QStringLiteral("Off"));
+        policies->insert(QLatin1String(row.option), Keys::onOrOff(restricted));
     }
     return true;
 }

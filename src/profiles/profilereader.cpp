@@ -1,6 +1,7 @@
 #include "profiles/profilereader.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/maker.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
@@ -224,7 +225,7 @@ ProfileDetails readProfile(const QString &path)
     forEachLine(path, [&](const Entry &entry) {
         if (namesModel(entry.line)) {
             if (entry.line.contains(QLatin1String(genericKeyword)))
-                details.insert(QLatin1String(genericKeyword), QStringLiteral("True"));
+                details.insert(QLatin1String(genericKeyword), Keys::yes);
             if (stores.find(entry.line) == stores.end())
                 stores[entry.line] = importModel(entry.line);
             store = stores[entry.line].get();
@@ -247,7 +248,7 @@ ProfileDetails factoryDefaults()
                            option->defaultChoice() ? option->defaultChoice()->text() : QString());
     }
     if (!currentStore->rasterOrPdfFilter())
-        details.insert(QLatin1String(genericKeyword), QStringLiteral("True"));
+        details.insert(QLatin1String(genericKeyword), Keys::yes);
     for (const char *keyword : offByDefault)
         details.insert(QLatin1String(keyword), onOrOff(false));
     return details;

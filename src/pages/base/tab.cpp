@@ -1,6 +1,7 @@
 #include "pages/base/tab.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "pages/base/paneldialog.h"
@@ -17,9 +18,6 @@
 #include <QSlider>
 
 namespace {
-
-const QLatin1String onKey("True");
-const QLatin1String offKey("False");
 
 /// Box items carry no data: the text is the link to the choice.
 int itemIndex(const ComboBoxEx *box, const QString &text)
@@ -178,7 +176,7 @@ void Tab::loadCheckable(Checkable *box, const bOption *option)
     if (!option)
         return;
     const OptionChoice *choice = savedOrDefaultChoice(option);
-    box->setChecked(choice && choice->key() == onKey);
+    box->setChecked(choice && choice->key() == Keys::yes);
 }
 
 void Tab::loadButtonGroup(BixButtonGroup *group, bOption *option)
@@ -272,10 +270,10 @@ void Tab::applyWidgetValue(int value, QObject *widget)
     const QLatin1String type(widget->metaObject()->className());
     OptionChoice *choice = nullptr;
     if (type == QLatin1String("BixCheckBoxButton"))
-        choice = option->findChoice(static_cast<BixCheckBoxButton *>(widget)->isChecked() ? onKey
-                                                                                          : offKey);
+        choice = option->findChoice(
+            Keys::yesOrNo(static_cast<BixCheckBoxButton *>(widget)->isChecked()));
     else if (type == QLatin1String("QCheckBox") || type == QLatin1String("QRadioButton"))
-        choice = option->findChoice(value != 0 ? onKey : offKey);
+        choice = option->findChoice(Keys::yesOrNo(value != 0));
     else if (type == QLatin1String("ComboBoxEx"))
         choice = option->findChoiceByText(static_cast<ComboBoxEx *>(widget)->currentText());
     else if (type == QLatin1String("QSlider"))
@@ -343,9 +341,9 @@ QString Tab::widgetValue(QWidget *widget, bOption *option) const
     if (auto *group = qobject_cast<BixButtonGroup *>(widget))
         return keywordForText(option, group->currentText());
     if (auto *check = qobject_cast<QCheckBox *>(widget))
-        return check->isChecked() ? onKey : offKey;
+        return Keys::yesOrNo(check->isChecked());
     if (auto *button = qobject_cast<BixCheckBoxButton *>(widget))
-        return button->isChecked() ? onKey : offKey;
+        return Keys::yesOrNo(button->isChecked());
     if (auto *slider = qobject_cast<QSlider *>(widget))
         return sliderText(option->key(), slider->value());
     return QString();

@@ -2,6 +2,7 @@
 // the marks.
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/optionchoice.h"
 #include "pages/base/tab.h"
 #include "widgets/bixbuttongroup.h"
@@ -130,8 +131,8 @@ bool Tab::enableOptionsForCheckBox(QCheckBox *box, bOption *option)
 
 bool Tab::enableOptionsForCheckBoxButton(BixCheckBoxButton *button, bOption *option)
 {
-    return forceState(button, isBlocked(option->findChoice(QStringLiteral("False"))),
-                      isBlocked(option->findChoice(QStringLiteral("True"))));
+    return forceState(button, isBlocked(option->findChoice(Keys::no)),
+                      isBlocked(option->findChoice(Keys::yes)));
 }
 
 bool Tab::enableOptionsForButtonGroup(BixButtonGroup *group, bOption *option)

@@ -1,6 +1,7 @@
 #include "pages/finishing/finishingtab.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "pages/base/pagelayout.h"
@@ -25,7 +26,6 @@ namespace {
 const QLatin1String foldKeyword("FldA");
 const QLatin1String biFoldKey("Bifold");
 const QLatin1String triFoldKey("Trifold");
-const QLatin1String noneKey("None");
 
 constexpr PageWidgets::ButtonRow separationButtons[] = {
     {QT_TRANSLATE_NOOP("FinishingTab", "Off"), ":/icons/separation-off"},
@@ -365,7 +365,7 @@ void FinishingTab::loadFoldButton(BixCheckBoxButton *button, bOption *option)
     const QString saved = readSetting(option->key());
     if (saved.isEmpty())
         return;
-    QLatin1String on("True");
+    QLatin1String on = Keys::yes;
     if (button == buttons[BiFold])
         on = biFoldKey;
     else if (button == buttons[TriFold])
@@ -491,7 +491,7 @@ QHash<QString, QString> FinishingTab::collectSettings()
     if (findOption(foldKeyword))
         savedSettings.insert(foldKeyword, isOn(BiFold)    ? biFoldKey
                                           : isOn(TriFold) ? triFoldKey
-                                                          : noneKey);
+                                                          : Keys::none);
     // What hangs under a button that is off is off too, whatever its list showed last.
     for (const BixCheckBoxButton *button : qAsConst(checkBoxButtons)) {
         if (button->isChecked())
@@ -500,7 +500,7 @@ QHash<QString, QString> FinishingTab::collectSettings()
         for (const QWidget *dependent : dependents) {
             const QString keyword = boundWidgets.key(dependent);
             if (findOption(keyword))
-                savedSettings.insert(keyword, noneKey);
+                savedSettings.insert(keyword, Keys::none);
         }
     }
     return savedSettings;

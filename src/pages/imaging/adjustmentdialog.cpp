@@ -1,6 +1,7 @@
 #include "pages/imaging/adjustmentdialog.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "pages/base/pagewidgets.h"
@@ -431,7 +432,7 @@ QString adjustmentDialog::colorSpace() const
 
 void adjustmentDialog::saveSettings()
 {
-    select(adjustmentKey, customKey(customBox->isChecked()));
+    select(adjustmentKey, Keys::yesOrNo(customBox->isChecked()));
     select(colorSpaceKey, colorSpace());
     savedValues.clear();
     for (const ValueRow &row : valueRows)
@@ -441,7 +442,7 @@ void adjustmentDialog::saveSettings()
 
 void adjustmentDialog::resetStates()
 {
-    select(adjustmentKey, customKey(false));
+    select(adjustmentKey, Keys::no);
     select(colorSpaceKey, noSpace);
     savedValues.clear();
     for (const ValueRow &row : valueRows)
@@ -454,7 +455,7 @@ void adjustmentDialog::loadStates()
     savedValues.clear();
     for (const ValueRow &row : valueRows)
         savedValues.append({keyOf(row), savedValue(row)});
-    selectSaved(adjustmentKey, customKey(false));
+    selectSaved(adjustmentKey, Keys::no);
     selectSaved(colorSpaceKey, noSpace);
     hueIndex = readSetting(hueIndexKey).toInt();
     refreshWidgets();
@@ -464,7 +465,7 @@ Pairs adjustmentDialog::collectAdjustments() const
 {
     const QString space = colorSpace();
     Pairs pairs{
-        {adjustmentKey, customKey(customBox->isChecked())},
+        {adjustmentKey, Keys::yesOrNo(customBox->isChecked())},
         {colorSpaceKey, space},
         {hueIndexKey, QString::number(space == hslSpace ? std::max(0, hueBox->currentIndex()) : 0)},
     };

@@ -1,6 +1,7 @@
 #include "pages/imaging/adjustmentvalues.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/optionstore.h"
 #include "storage/settingsfile.h"
 
@@ -13,15 +14,10 @@ QString exactKey(const QString &key)
     return QLatin1Char('f') + key;
 }
 
-QString customKey(bool on)
-{
-    return on ? QStringLiteral("True") : QStringLiteral("False");
-}
-
 bool isCustom(const QString &keyword)
 {
     const bOption *option = currentStore ? currentStore->find(keyword) : nullptr;
-    return option && option->currentKey() == customKey(true);
+    return option && option->currentKey() == Keys::yes;
 }
 
 void select(const QString &keyword, const QString &key)

@@ -14,8 +14,6 @@ namespace AdjustmentValues {
 using Pairs = QVector<QPair<QString, QString>>;
 
 QString exactKey(const QString &key);
-/// The choice of an adjustment option that stands for on or off.
-QString customKey(bool on);
 
 /// True if the printer has this adjustment option and it is on.
 bool isCustom(const QString &keyword);

@@ -1,6 +1,7 @@
 #include "pages/imaging/imagingtab.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "pages/base/pagelayout.h"
@@ -323,12 +324,12 @@ void ImagingTab::leanprintButtonToggled()
         leanprintBox->setEnabled(false);
         if (option->choiceCount() == 6)
             leanprintBox->setCurrentIndex(2);
-        option->setCurrent(option->findChoice(LeanPrint::offKey));
+        option->setCurrent(option->findChoice(Keys::off));
         return;
     }
     option->setCurrent(LeanPrint::onChoice(*option));
     // With a plain "On" the printer decides how much to save.
-    if (!option->hasChoice(LeanPrint::onKey))
+    if (!option->hasChoice(Keys::on))
         leanprintBox->setEnabled(true);
 }
 

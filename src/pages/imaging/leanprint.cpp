@@ -1,6 +1,7 @@
 #include "pages/imaging/leanprint.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/optionchoice.h"
 
 #include <algorithm>
@@ -21,12 +22,12 @@ bool hasLevels(const bOption &option)
 
 bool isOn(const QString &key)
 {
-    return key == onKey || key.contains(levelPrefix);
+    return key == Keys::on || key.contains(levelPrefix);
 }
 
 OptionChoice *onChoice(const bOption &option)
 {
-    OptionChoice *on = option.findChoice(onKey);
+    OptionChoice *on = option.findChoice(Keys::on);
     return on ? on : option.findChoice(levelKey(usualLevel));
 }
 
@@ -48,8 +49,8 @@ int levelToShow(const bOption &option, const QString &key)
 QString settingFor(const bOption &option, bool on, int level)
 {
     if (!on)
-        return offKey;
-    return hasLevels(option) ? levelKey(level) : QString(onKey);
+        return Keys::off;
+    return hasLevels(option) ? levelKey(level) : QString(Keys::on);
 }
 
 } // namespace LeanPrint

@@ -12,8 +12,6 @@ class bOption;
 namespace LeanPrint {
 
 inline const QLatin1String keyword("Lnpr");
-inline const QLatin1String offKey("Off");
-inline const QLatin1String onKey("On");
 
 /// True if there is more to choose than off and on.
 bool hasLevels(const bOption &option);

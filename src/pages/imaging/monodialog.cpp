@@ -1,5 +1,6 @@
 #include "pages/imaging/monodialog.h"
 
+#include "model/keys.h"
 #include "pages/base/pagewidgets.h"
 #include "storage/settingsfile.h"
 
@@ -125,21 +126,21 @@ void monoDialog::refreshWidgets()
 void monoDialog::saveSettings()
 {
     savedValues.clear();
-    select(adjustmentKey, customKey(customBox->isChecked()));
+    select(adjustmentKey, Keys::yesOrNo(customBox->isChecked()));
     savedValues.append({brightnessKey, brightness.edit->text().toInt()});
     savedValues.append({contrastKey, contrast.edit->text().toInt()});
 }
 
 void monoDialog::resetStates()
 {
-    select(adjustmentKey, customKey(false));
+    select(adjustmentKey, Keys::no);
     savedValues.clear();
     refreshWidgets();
 }
 
 void monoDialog::loadStates()
 {
-    selectSaved(adjustmentKey, customKey(false));
+    selectSaved(adjustmentKey, Keys::no);
     // Those of earlier loads may stay: the last ones count.
     for (const QLatin1String &key : {brightnessKey, contrastKey}) {
         const int value = sliderPosition(number(readSetting(exactKey(key))), scale);
@@ -153,7 +154,7 @@ Pairs monoDialog::collectAdjustments() const
     const int lightness = brightness.slider->value();
     const int difference = contrast.slider->value();
     return {
-        {adjustmentKey, customKey(customBox->isChecked())},
+        {adjustmentKey, Keys::yesOrNo(customBox->isChecked())},
         {brightnessKey, coarseText(lightness, scale, ".0")},
         {contrastKey, coarseText(difference, scale, ".0")},
         {exactKey(brightnessKey), exactText(lightness, scale)},

@@ -1,6 +1,7 @@
 #include "pages/job/jobemail.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/optionstore.h"
 #include "pages/base/buttoncaption.h"
 #include "pages/base/errorlabel.h"
@@ -20,8 +21,6 @@ namespace {
 const QLatin1String keyword("cEmail");
 const QLatin1String addressKey("EMailNotification"); // in the settings file
 const QLatin1String offValue("off");
-const QLatin1String onChoice("True");
-const QLatin1String offChoice("False");
 
 // From "+" to "@" in ASCII, which has the digits and a few signs in it.
 const QLatin1String allowed("[A-Za-z0-9._%+-@]{64}");
@@ -122,15 +121,15 @@ void JobEmail::load()
         show(false, QString());
         return;
     }
-    const bool on = readSetting(keyword) == onChoice;
-    option->setCurrent(option->findChoice(on ? onChoice : offChoice));
+    const bool on = readSetting(keyword) == Keys::yes;
+    option->setCurrent(option->findChoice(Keys::yesOrNo(on)));
     const QString choice = option->currentKey();
     const QString saved = readSetting(addressKey);
     if (!option->current())
         show(false, QString());
-    else if (!saved.isEmpty() && saved != offChoice && saved != offValue)
+    else if (!saved.isEmpty() && saved != Keys::no && saved != offValue)
         show(true, saved);
-    else if (saved.isEmpty() && choice != offValue && choice != offChoice)
+    else if (saved.isEmpty() && choice != offValue && choice != Keys::no)
         show(true, QString(choice).remove(QLatin1String("Custom.")));
     else
         show(false, QString());

@@ -1,5 +1,6 @@
 #include "pages/job/joblogin.h"
 
+#include "model/keys.h"
 #include "model/optionstore.h"
 #include "model/sentinels.h"
 #include "pages/base/buttoncaption.h"
@@ -102,7 +103,7 @@ void JobLogin::loadLoginSettings()
 void JobLogin::save(Settings *settings) const
 {
     const bool on = button->isChecked();
-    settings->insert(switchKey, on ? QStringLiteral("True") : QStringLiteral("False"));
+    settings->insert(switchKey, Keys::yesOrNo(on));
     if (!on)
         return;
     for (const auto &[key, edit] : {std::pair(nameKey, nameEdit), {passwordKey, passwordEdit}}) {

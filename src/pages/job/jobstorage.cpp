@@ -1,6 +1,7 @@
 #include "pages/job/jobstorage.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "model/sentinels.h"
@@ -268,7 +269,7 @@ void JobStorage::syncStorageState()
     QString value = readSetting(keyword);
     if (value.isEmpty() && option->defaultChoice())
         value = option->defaultChoice()->key();
-    const bool off = value == QLatin1String("None");
+    const bool off = value == Keys::none;
     if (off) {
         button->setChecked(false);
         select(tr("Proof and hold"));
@@ -285,18 +286,17 @@ void JobStorage::save(Settings *settings) const
 {
     if (!button->isChecked())
         return;
-    const QString on = QStringLiteral("True");
     const QString code = codeEdit->text();
     const QString secret = SecretSetting::encrypted(code);
     switch (kind(Qt::CaseInsensitive)) {
     case StorageKind::JobStorage:
-        settings->insert(jobStorageKey, on);
+        settings->insert(jobStorageKey, Keys::yes);
         settings->insert(keyword, jobStorageKey);
         if (code.size() == longestCode)
             settings->insert(accessCodeKey, secret);
         break;
     case StorageKind::PrivatePrint:
-        settings->insert(privatePrintKey, on);
+        settings->insert(privatePrintKey, Keys::yes);
         settings->insert(keyword, QStringLiteral("Custom1"));
         if (!secret.isEmpty())
             settings->insert(accessCodeKey, secret);

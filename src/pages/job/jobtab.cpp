@@ -1,6 +1,7 @@
 #include "pages/job/jobtab.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "pages/base/pagelayout.h"
@@ -360,7 +361,7 @@ void JobTab::toggleJobSettingsCheckBox(bool toggled)
     const QSignalBlocker silent(storage->box);
     storage->selectOffState();
     // A keyword of its own, with one "l". The list's option follows by CheckBoxMarkConstraints().
-    currentStore->setCurrentByKey(QStringLiteral("BXColate1"), QStringLiteral("None"));
+    currentStore->setCurrentByKey(QStringLiteral("BXColate1"), Keys::none);
     toggleJobSettingsInput(storage->box->currentText());
 }
 

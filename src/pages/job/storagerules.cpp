@@ -1,6 +1,7 @@
 #include "pages/job/storagerules.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/maker.h"
 #include "model/optionstore.h"
 
@@ -67,7 +68,7 @@ StorageOffers storageOffers(const OptionStore &store)
         return offers;
     const QString storage = installed->currentKey();
     if (store.find(QStringLiteral("cPrivatePrint")))
-        offers.privatePrint = offerIf(storage != QLatin1String("None"));
+        offers.privatePrint = offerIf(storage != Keys::none);
     if (store.find(QStringLiteral("cCustomBox")))
         offers.customBox =
             offerIf(storage == QLatin1String("SSDrive") || storage == QLatin1String("HardDisk"));

@@ -1,6 +1,7 @@
 #include "pages/printer/printertab.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/optionstore.h"
 #include "model/printqueues.h"
 #include "model/queueppd.h"
@@ -299,7 +300,7 @@ void PrinterTab::removeInstalledOptions()
 void PrinterTab::addInstalledOption(const bOption *option)
 {
     const QString margin = QStringLiteral("margin-bottom: 8px");
-    if (option->hasChoice(QStringLiteral("False")) && option->hasChoice(QStringLiteral("True"))) {
+    if (option->hasChoice(Keys::no) && option->hasChoice(Keys::yes)) {
         auto *box = new QCheckBox(option->text());
         box->setAccessibleName(QStringLiteral("chkBx") + option->key());
         box->setStyleSheet(margin);
@@ -342,7 +343,7 @@ void PrinterTab::connectCheckBox(QCheckBox *box)
 QString PrinterTab::installedValue(const QWidget *widget)
 {
     if (const auto *check = qobject_cast<const QCheckBox *>(widget))
-        return check->isChecked() ? QStringLiteral("True") : QStringLiteral("False");
+        return Keys::yesOrNo(check->isChecked());
     const auto *box = qobject_cast<const ComboBoxEx *>(widget);
     return box ? box->currentText() : QString();
 }

@@ -1,5 +1,6 @@
 #include "pages/publishing/publishingtab.h"
 
+#include "model/keys.h"
 #include "model/optionstore.h"
 #include "pages/base/buttoncaption.h"
 #include "pages/base/errorlabel.h"
@@ -95,14 +96,6 @@ constexpr TextRow captionRows[] = {
 constexpr int blankCoverCodes[] = {16, 32};
 
 constexpr int inputWidth = 185; // at least, in pixels
-
-const QLatin1String onKey("True");
-const QLatin1String offKey("False");
-
-QLatin1String trueOrFalse(bool on)
-{
-    return on ? onKey : offKey;
-}
 
 /// What to tell the user of a list of pages; null for nothing.
 const char *message(PageList::Verdict verdict)
@@ -385,7 +378,7 @@ void PublishingTab::clearPages()
 
 void PublishingTab::loadMode(Mode mode, const char *key)
 {
-    buttons[mode]->setChecked(readSetting(QLatin1String(key)) == onKey);
+    buttons[mode]->setChecked(readSetting(QLatin1String(key)) == Keys::yes);
 }
 
 void PublishingTab::loadCover()
@@ -451,9 +444,10 @@ void PublishingTab::coverRadioButtonSelectionChanged()
             continue;
         captions[CoverBack]->setEnabled(chosen == FrontAndBack);
         if (currentStore) {
-            currentStore->setCurrentByKey(QStringLiteral("cCovTRad"), trueOrFalse(chosen == Front));
+            currentStore->setCurrentByKey(QStringLiteral("cCovTRad"),
+                                          Keys::yesOrNo(chosen == Front));
             currentStore->setCurrentByKey(QStringLiteral("cCovBRad"),
-                                          trueOrFalse(chosen == FrontAndBack));
+                                          Keys::yesOrNo(chosen == FrontAndBack));
         }
     }
 }
@@ -562,7 +556,7 @@ int PublishingTab::sidesCode() const
 
 void PublishingTab::addCoverSettings(QHash<QString, QString> *settings) const
 {
-    settings->insert(QStringLiteral("BqCoverModeEnabled"), trueOrFalse(isOn(Cover)));
+    settings->insert(QStringLiteral("BqCoverModeEnabled"), Keys::yesOrNo(isOn(Cover)));
     if (!isOn(Cover))
         return;
     const char *chosen = sides[Front]->isChecked()          ? "1"
@@ -577,8 +571,8 @@ void PublishingTab::addPageInsertSettings(QHash<QString, QString> *settings) con
 {
     const bool on = isOn(PageInsert);
     const int code = int(isPrinted(InsertFront)) + 2 * int(isPrinted(InsertBack));
-    settings->insert(QStringLiteral("BqPageInsertEnabled"), trueOrFalse(on));
-    settings->insert(QStringLiteral("Pins"), QLatin1String(on ? "On" : "Off"));
+    settings->insert(QStringLiteral("BqPageInsertEnabled"), Keys::yesOrNo(on));
+    settings->insert(QStringLiteral("Pins"), Keys::onOrOff(on));
     settings->insert(QStringLiteral("BqPageinsertValue"), QString::number(on ? code : -1));
     if (!on)
         return;
@@ -590,7 +584,7 @@ void PublishingTab::addInterleavingSettings(QHash<QString, QString> *settings) c
 {
     const bool on = isOn(Interleaving);
     const int code = !on ? 0 : isPrinted(Backing) ? 2 : 1;
-    settings->insert(QStringLiteral("BqIntLvEnabled"), trueOrFalse(on));
+    settings->insert(QStringLiteral("BqIntLvEnabled"), Keys::yesOrNo(on));
     settings->insert(QStringLiteral("BqIntLvValue"), QString::number(code));
     if (on)
         settings->insert(QStringLiteral("BQTransparencyinterleavingMedia"),

@@ -1,6 +1,7 @@
 #include "pages/watermark/watermarktab.h"
 
 #include "model/boption.h"
+#include "model/keys.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "pages/base/pagelayout.h"
@@ -513,8 +514,7 @@ void WatermarkTab::toggleWatermarkSection(bool on)
         showLook(usualLook());
     }
     if (currentStore)
-        currentStore->setCurrentByKey(switchKeyword,
-                                      on ? QStringLiteral("True") : QStringLiteral("False"));
+        currentStore->setCurrentByKey(switchKeyword, Keys::yesOrNo(on));
     setSectionEnabled(on);
     if (on) {
         handleWatermarkSelection(text.box->currentText());
@@ -565,7 +565,7 @@ QHash<QString, QString> WatermarkTab::collectSettings()
 {
     Tab::collectSettings();
     if (findOption(superKeyword) && superButton->isEnabledTo(this) && !superButton->isChecked())
-        savedSettings.insert(superKeyword, QStringLiteral("None"));
+        savedSettings.insert(superKeyword, Keys::none);
     const QString selected = text.box->currentText();
     const bool isBuiltIn =
         Watermark::isBuiltInText(selected) && !customWatermarks.contains(selected);
