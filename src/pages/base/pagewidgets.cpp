@@ -5,6 +5,7 @@
 #include "widgets/bixbuttongroup.h"
 #include "widgets/comboboxex.h"
 
+#include <QDialog>
 #include <QLabel>
 
 #include <algorithm>
@@ -30,6 +31,12 @@ LabeledComboBox labeledComboBox(QWidget *page, const char *labelName, const char
 void addButton(BixButtonGroup *group, const ButtonRow &row, Translate tr)
 {
     group->addButton(tr(row.name, nullptr, -1), QLatin1String(row.icon));
+}
+
+void simplifyTitleBar(QDialog *dialog)
+{
+    dialog->setWindowFlags(dialog->windowFlags() &
+                           ~(Qt::WindowContextHelpButtonHint | Qt::WindowMinMaxButtonsHint));
 }
 
 bool printerHasAnyOf(const WidgetMap &widgets)

@@ -5,6 +5,7 @@
 
 class BixButtonGroup;
 class ComboBoxEx;
+class QDialog;
 class QLabel;
 class QWidget;
 class WidgetMap;
@@ -55,6 +56,9 @@ void addButtons(BixButtonGroup *group, const ButtonRow (&rows)[N], Translate tr)
     for (const ButtonRow &row : rows)
         addButton(group, row, tr);
 }
+
+/// Leaves the close button alone in a dialog's title bar.
+void simplifyTitleBar(QDialog *dialog);
 
 /// True if a printer is selected and has at least one of the keywords.
 bool printerHasAnyOf(const WidgetMap &widgets);

@@ -117,7 +117,7 @@ adjustmentDialog::adjustmentDialog(QWidget *parent)
     , hueBox(new ComboBoxEx(hueGroup))
 {
     setWindowTitle(tr("Adjustment Settings"));
-    AdjustmentWidgets::simplifyTitleBar(this);
+    PageWidgets::simplifyTitleBar(this);
     createRows();
     createLayout();
 

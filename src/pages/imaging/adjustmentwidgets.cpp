@@ -1,6 +1,5 @@
 #include "pages/imaging/adjustmentwidgets.h"
 
-#include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -30,12 +29,6 @@ void place(QGridLayout *grid, int gridRow, QLabel *label, const Row &row)
     grid->addWidget(label, gridRow, 0, Qt::AlignLeft);
     grid->addWidget(row.edit, gridRow, 0, 1, 3, Qt::AlignCenter);
     grid->addWidget(row.slider, gridRow + 1, 0, 1, 3);
-}
-
-void simplifyTitleBar(QDialog *dialog)
-{
-    dialog->setWindowFlags(dialog->windowFlags() &
-                           ~(Qt::WindowContextHelpButtonHint | Qt::WindowMinMaxButtonsHint));
 }
 
 } // namespace AdjustmentWidgets

@@ -2,7 +2,6 @@
 
 #include <QString>
 
-class QDialog;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -31,7 +30,5 @@ struct Row
 Row makeRow(QWidget *parent, const QString &name, const Limits &limits);
 /// Puts label and text into a row of the grid and the slider into the next one.
 void place(QGridLayout *grid, int gridRow, QLabel *label, const Row &row);
-/// Leaves the close button alone in the title bar.
-void simplifyTitleBar(QDialog *dialog);
 
 } // namespace AdjustmentWidgets

@@ -36,7 +36,7 @@ monoDialog::monoDialog(QWidget *parent)
     , contrast(AdjustmentWidgets::makeRow(this, tr("Contrast"), limits))
 {
     setWindowTitle(tr("Adjustment Settings"));
-    AdjustmentWidgets::simplifyTitleBar(this);
+    PageWidgets::simplifyTitleBar(this);
 
     connect(customBox, &QCheckBox::toggled, this, &monoDialog::toggleAdjustment);
     for (const AdjustmentWidgets::Row &row : {brightness, contrast}) {

@@ -1,7 +1,6 @@
 #include "pages/job/accounteditdialog.h"
 
 #include "pages/base/pagewidgets.h"
-#include "pages/imaging/adjustmentwidgets.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -23,7 +22,7 @@ AccountEditDialog::AccountEditDialog(QWidget *list)
     , descriptionEdit(named(new QLineEdit(this), "lnEditCustomAccountDescription"))
     , buttonBox(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
 {
-    AdjustmentWidgets::simplifyTitleBar(this);
+    PageWidgets::simplifyTitleBar(this);
     setWindowModality(Qt::WindowModal);
     idEdit->setMaxLength(longestId);
     idEdit->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("[0-9]*")), idEdit));

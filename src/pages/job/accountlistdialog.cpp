@@ -1,7 +1,6 @@
 #include "pages/job/accountlistdialog.h"
 
 #include "pages/base/pagewidgets.h"
-#include "pages/imaging/adjustmentwidgets.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -30,7 +29,7 @@ AccountListDialog::AccountListDialog(QWidget *page)
 {
     setWindowTitle(tr("Account ID"));
     setWindowModality(Qt::WindowModal);
-    AdjustmentWidgets::simplifyTitleBar(this);
+    PageWidgets::simplifyTitleBar(this);
     createTable();
     createLayout();
     setFixedSize(400, 200);
