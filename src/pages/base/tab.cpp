@@ -1,46 +1,20 @@
 #include "pages/base/tab.h"
 
 #include "model/boption.h"
-#include "model/keys.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
-#include "pages/base/paneldialog.h"
+#include "model/sentinels.h"
+#include "pages/base/checkbinding.h"
+#include "pages/base/combobinding.h"
+#include "pages/base/groupbinding.h"
 #include "storage/settingsfile.h"
 #include "widgets/bixbuttongroup.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
-#include "widgets/constraintmark.h"
 
 #include <QCheckBox>
-#include <QLabel>
 #include <QMessageBox>
-#include <QRadioButton>
 #include <QSlider>
-
-namespace {
-
-/// Box items carry no data: the text is the link to the choice.
-int itemIndex(const ComboBoxEx *box, const QString &text)
-{
-    return box->findData(text, Qt::DisplayRole, Qt::MatchCaseSensitive);
-}
-
-/// How a slider's position reads as a choice of its option: the master hue goes in tens, all
-/// others carry a decimal.
-QString sliderText(const QString &keyword, int value)
-{
-    if (keyword == QLatin1String("CaHueMaster"))
-        return QString::number(value * 10);
-    return value == 0 ? QStringLiteral("0") : QString::number(value) + QStringLiteral(".0");
-}
-
-/// Check boxes read an ampersand as the mark of a shortcut.
-QString captionText(QString text)
-{
-    return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
-}
-
-} // namespace
 
 Tab::Tab(PanelDialog *dialog)
     : QWidget(dialog)
@@ -108,33 +82,14 @@ void Tab::applyLabels()
         const bOption *option = findOption(keyword);
         if (QWidget *companion = companionWidgets.value(keyword))
             companion->setEnabled(option);
-        if (auto *label = qobject_cast<QLabel *>(widget)) {
-            if (option)
-                ConstraintMark::setPlainText(label, option->text() + QLatin1Char(':'));
-            label->setEnabled(option);
-        } else if (auto *box = qobject_cast<QCheckBox *>(widget)) {
-            if (option)
-                box->setText(captionText(option->text()));
-            else
-                box->setChecked(false);
-            box->setEnabled(option);
-        }
+        Binding::of(widget).showOption(widget, option);
     }
 }
 
 void Tab::loadOptions()
 {
-    for (const auto &[keyword, widget] : boundWidgets) {
-        bOption *option = findOption(keyword);
-        if (auto *box = qobject_cast<ComboBoxEx *>(widget))
-            fillComboBox(box, option);
-        else if (auto *check = qobject_cast<QCheckBox *>(widget))
-            loadCheckable(check, option);
-        else if (auto *group = qobject_cast<BixButtonGroup *>(widget))
-            loadButtonGroup(group, option);
-        else if (auto *button = qobject_cast<BixCheckBoxButton *>(widget))
-            loadCheckable(button, option);
-    }
+    for (const auto &[keyword, widget] : boundWidgets)
+        Binding::of(widget).load(*this, widget, findOption(keyword));
     for (BixCheckBoxButton *button : qAsConst(checkBoxButtons))
         button->refreshDependents();
 }
@@ -148,105 +103,46 @@ OptionChoice *Tab::savedOrDefaultChoice(const bOption *option)
 
 void Tab::fillComboBox(ComboBoxEx *box, bOption *option)
 {
-    box->clear();
-    box->setEnabled(option);
-    if (!option)
-        return;
-    addComboBoxItems(box, option);
-    for (const OptionChoice *choice : {savedOrDefaultChoice(option), option->defaultChoice()}) {
-        const int index = choice ? itemIndex(box, choice->text()) : -1;
-        if (index >= 0) {
-            box->setCurrentIndex(index);
-            return;
-        }
-    }
+    ComboBinding::fill(*this, box, option);
 }
 
 void Tab::addComboBoxItems(ComboBoxEx *box, bOption *option)
 {
-    const QList<OptionChoice *> choices = option->choiceList();
-    for (const OptionChoice *choice : choices)
-        box->addItem(choice->text());
-}
-
-template <typename Checkable>
-void Tab::loadCheckable(Checkable *box, const bOption *option)
-{
-    box->setEnabled(option);
-    if (!option)
-        return;
-    const OptionChoice *choice = savedOrDefaultChoice(option);
-    box->setChecked(choice && choice->key() == Keys::yes);
-}
-
-void Tab::loadButtonGroup(BixButtonGroup *group, bOption *option)
-{
-    const OptionChoice *choice = option ? savedOrDefaultChoice(option) : nullptr;
-    group->setGroupEnabled(choice);
-    if (choice)
-        group->setButtonByValue(choice->text());
+    ComboBinding::addItems(box, option);
 }
 
 // From the widgets to the model
 
 void Tab::connectBoundWidgets()
 {
-    for (const auto &[keyword, widget] : boundWidgets) {
-        if (auto *box = qobject_cast<ComboBoxEx *>(widget)) {
-            connectComboBox(box);
-        } else if (auto *check = qobject_cast<QCheckBox *>(widget)) {
-            connectCheckBox(check);
-        } else if (auto *slider = qobject_cast<QSlider *>(widget)) {
-            connectSlider(slider);
-        } else if (auto *group = qobject_cast<BixButtonGroup *>(widget)) {
-            connectButtonGroup(group);
-        } else if (auto *button = qobject_cast<BixCheckBoxButton *>(widget)) {
-            const auto toggled = qOverload<int>(&BixCheckBoxButton::toggled);
-            connect(button, toggled, this, qOverload<int>(&Tab::markOption), Qt::UniqueConnection);
-            connect(button, toggled, dialog, &PanelDialog::setConstraints, Qt::UniqueConnection);
-        } else if (auto *radio = qobject_cast<QRadioButton *>(widget)) {
-            connect(radio, &QRadioButton::toggled, this, qOverload<bool>(&Tab::markOption),
-                    Qt::UniqueConnection);
-            connect(radio, &QRadioButton::toggled, dialog, &PanelDialog::setConstraints,
-                    Qt::UniqueConnection);
-        }
-    }
-    for (BixCheckBoxButton *button : qAsConst(checkBoxButtons)) {
-        const auto toggled = qOverload<bool>(&BixCheckBoxButton::toggled);
-        connect(button, toggled, this, &Tab::CheckBoxMarkConstraints, Qt::UniqueConnection);
-        connect(button, toggled, dialog, &PanelDialog::setConstraints, Qt::UniqueConnection);
-    }
+    for (const auto &[keyword, widget] : boundWidgets)
+        Binding::of(widget).connectTo(*this, widget);
+    for (BixCheckBoxButton *button : qAsConst(checkBoxButtons))
+        connectChange(button, qOverload<bool>(&BixCheckBoxButton::toggled),
+                      &Tab::CheckBoxMarkConstraints);
 }
 
 void Tab::connectComboBox(ComboBoxEx *box)
 {
     box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    const auto changed = qOverload<int>(&QComboBox::currentIndexChanged);
-    connect(box, changed, this, qOverload<int>(&Tab::markOption), Qt::UniqueConnection);
-    connect(box, changed, dialog, &PanelDialog::setConstraints, Qt::UniqueConnection);
+    connectChange(box, qOverload<int>(&QComboBox::currentIndexChanged),
+                  qOverload<int>(&Tab::markOption));
 }
 
 void Tab::connectCheckBox(QCheckBox *box)
 {
-    connect(box, &QCheckBox::stateChanged, this, qOverload<int>(&Tab::markOption),
-            Qt::UniqueConnection);
-    connect(box, &QCheckBox::stateChanged, dialog, &PanelDialog::setConstraints,
-            Qt::UniqueConnection);
+    connectChange(box, &QCheckBox::stateChanged, qOverload<int>(&Tab::markOption));
 }
 
 void Tab::connectSlider(QSlider *slider)
 {
-    connect(slider, &QSlider::valueChanged, this, qOverload<int>(&Tab::markOption),
-            Qt::UniqueConnection);
-    connect(slider, &QSlider::valueChanged, dialog, &PanelDialog::setConstraints,
-            Qt::UniqueConnection);
+    connectChange(slider, &QSlider::valueChanged, qOverload<int>(&Tab::markOption));
 }
 
 void Tab::connectButtonGroup(BixButtonGroup *group)
 {
-    const auto clicked = qOverload<int>(&BixButtonGroup::buttonClicked);
-    connect(group, clicked, this, qOverload<int>(&Tab::markOption), Qt::UniqueConnection);
-    connect(group, clicked, dialog, &PanelDialog::setConstraints, Qt::UniqueConnection);
+    connectChange(group, qOverload<int>(&BixButtonGroup::buttonClicked),
+                  qOverload<int>(&Tab::markOption));
 }
 
 void Tab::markOption(bool value)
@@ -261,44 +157,19 @@ void Tab::markOption(int value)
 
 void Tab::applyWidgetValue(int value, QObject *widget)
 {
-    const QString keyword = boundWidgets.key(widget, QString());
-    bOption *option = findOption(keyword);
-    if (!option)
+    bOption *option = findOption(boundWidgets.key(widget, QString()));
+    const Binding &binding = Binding::of(widget);
+    // Only the exact class: a page's own subclass handles its values itself.
+    if (!option || qstrcmp(widget->metaObject()->className(), binding.className()) != 0)
         return;
-
-    // By the exact class: a page's own subclass handles its values itself.
-    const QLatin1String type(widget->metaObject()->className());
-    OptionChoice *choice = nullptr;
-    if (type == QLatin1String("BixCheckBoxButton"))
-        choice = option->findChoice(
-            Keys::yesOrNo(static_cast<BixCheckBoxButton *>(widget)->isChecked()));
-    else if (type == QLatin1String("QCheckBox") || type == QLatin1String("QRadioButton"))
-        choice = option->findChoice(Keys::yesOrNo(value != 0));
-    else if (type == QLatin1String("ComboBoxEx"))
-        choice = option->findChoiceByText(static_cast<ComboBoxEx *>(widget)->currentText());
-    else if (type == QLatin1String("QSlider"))
-        choice = option->findChoiceByText(sliderText(keyword, value));
-    else if (type == QLatin1String("BixButtonGroup"))
-        choice = option->findChoiceByText(static_cast<BixButtonGroup *>(widget)->currentText());
-    else
-        return;
+    OptionChoice *choice = binding.choice(static_cast<QWidget *>(widget), value, option);
     option->setCurrent(choice ? choice : option->defaultChoice());
 }
 
 void Tab::applyAllWidgets()
 {
-    for (const auto &[keyword, widget] : boundWidgets) {
-        int value = 0;
-        if (auto *box = qobject_cast<ComboBoxEx *>(widget))
-            value = box->currentIndex();
-        else if (auto *button = qobject_cast<BixCheckBoxButton *>(widget))
-            value = button->isChecked();
-        else if (auto *plain = qobject_cast<QAbstractButton *>(widget))
-            value = plain->isChecked();
-        else if (auto *slider = qobject_cast<QSlider *>(widget))
-            value = slider->value();
-        applyWidgetValue(value, widget);
-    }
+    for (const auto &[keyword, widget] : boundWidgets)
+        applyWidgetValue(Binding::of(widget).value(widget), widget);
     for (BixCheckBoxButton *button : qAsConst(checkBoxButtons))
         CheckBoxMarkConstraintsWithSender(button);
 }
@@ -334,29 +205,12 @@ QString Tab::keywordForText(const bOption *option, const QString &text)
 
 QString Tab::widgetValue(QWidget *widget, bOption *option) const
 {
-    if (!option)
-        return QString();
-    if (auto *box = qobject_cast<ComboBoxEx *>(widget))
-        return keywordForText(option, box->currentText());
-    if (auto *group = qobject_cast<BixButtonGroup *>(widget))
-        return keywordForText(option, group->currentText());
-    if (auto *check = qobject_cast<QCheckBox *>(widget))
-        return Keys::yesOrNo(check->isChecked());
-    if (auto *button = qobject_cast<BixCheckBoxButton *>(widget))
-        return Keys::yesOrNo(button->isChecked());
-    if (auto *slider = qobject_cast<QSlider *>(widget))
-        return sliderText(option->key(), slider->value());
-    return QString();
+    return option ? Binding::of(widget).savedValue(widget, option) : QString();
 }
 
 QHash<QString, QString> Tab::collectSettings()
 {
-    savedSettings.clear();
-    for (const auto &[keyword, widget] : boundWidgets) {
-        const QString value = widgetValue(widget, findOption(keyword));
-        if (!value.isEmpty())
-            savedSettings.insert(keyword, value);
-    }
+    collectBoundWidgets();
     for (BixCheckBoxButton *button : qAsConst(checkBoxButtons)) {
         if (button->isChecked())
             continue;
@@ -373,4 +227,97 @@ QHash<QString, QString> Tab::collectSettings()
         }
     }
     return savedSettings;
+}
+
+void Tab::collectBoundWidgets()
+{
+    savedSettings.clear();
+    for (const auto &[keyword, widget] : boundWidgets) {
+        const QString value = widgetValue(widget, findOption(keyword));
+        if (!value.isEmpty())
+            savedSettings.insert(keyword, value);
+    }
+}
+
+// What a constraint pass does: what is blocked
+
+bool Tab::enableOptions()
+{
+    bool changed = false;
+    for (const auto &[keyword, widget] : boundWidgets) {
+        if (bOption *option = findOption(keyword))
+            changed = Binding::of(widget).enable(*this, widget, option) || changed;
+    }
+    return changed;
+}
+
+bool Tab::enableOptionsForComboBox(ComboBoxEx *box, bOption *option)
+{
+    return ComboBinding::enableItems(*this, box, option);
+}
+
+void Tab::setChoiceEnabled(int index, ComboBoxEx *box, bool disabled)
+{
+    ComboBinding::setItemEnabled(index, box, disabled);
+}
+
+bool Tab::enableOptionsForCheckBox(QCheckBox *box, bOption *option)
+{
+    return CheckBinding::enableBox(*this, box, option);
+}
+
+bool Tab::enableOptionsForCheckBoxButton(BixCheckBoxButton *button, bOption *option)
+{
+    return CheckButtonBinding::enableButton(*this, button, option);
+}
+
+bool Tab::enableOptionsForButtonGroup(BixButtonGroup *group, bOption *option)
+{
+    return GroupBinding::enableButtons(group, option);
+}
+
+// Marks
+
+void Tab::addConstraintWidget(const QString &key, QWidget *widget)
+{
+    constraintWidgets.insert(key, widget);
+}
+
+void Tab::removeConstraintWidget(const QString &key)
+{
+    constraintWidgets.remove(key);
+}
+
+void Tab::setWidgetMark(QWidget *widget, const QString &tooltip, bool on)
+{
+    Binding::of(widget).markWithToolTip(widget, tooltip, on);
+}
+
+void Tab::markWidget(QWidget *widget)
+{
+    marked = true;
+    Binding::of(widget).mark(widget);
+}
+
+void Tab::markKeyword(const QString &keyword, const QString &)
+{
+    QWidget *mark = markWidgets.value(keyword);
+    QWidget *bound = boundWidgets.value(keyword);
+    if (Binding::of(mark).marksAnother())
+        markWidget(mark);
+    // The adjustment is no value that could be chosen wrongly.
+    else if (Binding::of(bound).marksItself() && keyword != QLatin1String("Cadj"))
+        markWidget(bound);
+}
+
+void Tab::clearMarks()
+{
+    for (const auto &[keyword, widget] : markWidgets)
+        Binding::of(widget).clearMark(widget);
+}
+
+void Tab::markConstraintWidgets()
+{
+    for (const auto &[key, widget] : constraintWidgets)
+        markWidget(widget);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pages/base/paneldialog.h"
 #include "pages/base/widgetmap.h"
 
 #include <QHash>
@@ -12,7 +13,6 @@ class BixButtonGroup;
 class BixCheckBoxButton;
 class ComboBoxEx;
 class OptionChoice;
-class PanelDialog;
 class QCheckBox;
 class QSlider;
 class bOption;
@@ -103,12 +103,25 @@ public:
     /// Forgets marks of the pass before.
     void setMarked(bool on) { marked = on; }
 
-protected:
-    /// The option of a keyword for the selected printer, or null.
-    static bOption *findOption(const QString &keyword);
+    // For the bindings of the kinds of controls.
+
+    /// Lets a change reach a slot of the page and then the constraint pass; a second time adds
+    /// nothing.
+    template <typename Widget, typename Signal, typename Slot>
+    void connectChange(Widget *widget, Signal signal, Slot slot)
+    {
+        connect(widget, signal, this, slot, Qt::UniqueConnection);
+        connect(widget, signal, dialog, &PanelDialog::setConstraints, Qt::UniqueConnection);
+    }
     /// The choice to show: the saved one if the printer still has it, else the default. May be
     /// null.
     static OptionChoice *savedOrDefaultChoice(const bOption *option);
+    /// The key of the choice with this text; null text if there is none.
+    static QString keywordForText(const bOption *option, const QString &text);
+
+protected:
+    /// The option of a keyword for the selected printer, or null.
+    static bOption *findOption(const QString &keyword);
 
     /// Connects all bound widgets to this page and to the constraint pass; a second run adds
     /// nothing.
@@ -119,8 +132,8 @@ protected:
     void setChoiceEnabled(int index, ComboBoxEx *box, bool disabled);
     /// What collectSettings() stores for a widget; empty for a null option.
     QString widgetValue(QWidget *widget, bOption *option) const;
-    /// The key of the choice with this text; null text if there is none.
-    static QString keywordForText(const bOption *option, const QString &text);
+    /// Fills `savedSettings` with what the bound widgets hold.
+    void collectBoundWidgets();
 
     /// Names a widget that the next passes mark, until it is removed again.
     void addConstraintWidget(const QString &key, QWidget *widget);
@@ -137,11 +150,5 @@ protected:
     QHash<QString, QString> savedSettings; ///< what collectSettings() found last
 
 private:
-    template <typename Checkable>
-    void loadCheckable(Checkable *box, const bOption *option);
-    void loadButtonGroup(BixButtonGroup *group, bOption *option);
-    template <typename Checkable>
-    bool forceState(Checkable *box, bool offBlocked, bool onBlocked);
-    bool enableOptionsForWidget(QWidget *widget, bOption *option);
     void markWidget(QWidget *widget);
 };

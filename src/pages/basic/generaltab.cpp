@@ -211,16 +211,11 @@ void GeneralTab::clearMarks()
 
 QHash<QString, QString> GeneralTab::collectSettings()
 {
-    savedSettings.clear();
-    for (const auto &[keyword, widget] : boundWidgets) {
-        const QString value = widgetValue(widget, findOption(keyword));
-        if (value.isEmpty())
-            continue;
-        savedSettings.insert(keyword, value);
-        if (keyword == paperKeyword) {
-            for (const char *alias : paperAliases)
-                savedSettings.insert(QLatin1String(alias), value);
-        }
+    collectBoundWidgets();
+    const QString paper = savedSettings.value(paperKeyword);
+    if (!paper.isEmpty()) {
+        for (const char *alias : paperAliases)
+            savedSettings.insert(QLatin1String(alias), paper);
     }
     return savedSettings;
 }

@@ -482,12 +482,7 @@ bool FinishingTab::hasMarks()
 
 QHash<QString, QString> FinishingTab::collectSettings()
 {
-    savedSettings.clear();
-    for (const auto &[keyword, widget] : boundWidgets) {
-        const QString value = widgetValue(widget, findOption(keyword));
-        if (!value.isEmpty())
-            savedSettings.insert(keyword, value);
-    }
+    collectBoundWidgets();
     if (findOption(foldKeyword))
         savedSettings.insert(foldKeyword, isOn(BiFold)    ? biFoldKey
                                           : isOn(TriFold) ? triFoldKey

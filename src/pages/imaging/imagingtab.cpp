@@ -426,12 +426,7 @@ void ImagingTab::clearMarks()
 
 QHash<QString, QString> ImagingTab::collectSettings()
 {
-    savedSettings.clear();
-    for (const auto &[keyword, widget] : boundWidgets) {
-        const QString value = widgetValue(widget, findOption(keyword));
-        if (!value.isEmpty())
-            savedSettings.insert(keyword, value);
-    }
+    collectBoundWidgets();
 
     // A printer without a choice of colours prints black.
     const bool hasColor = findOption(colorKeyword);

@@ -556,12 +556,9 @@ bool JobTab::hasMarks()
 
 QHash<QString, QString> JobTab::collectSettings()
 {
-    savedSettings.clear();
-    for (const auto &[keyword, widget] : boundWidgets) {
-        const QString value = widgetValue(widget, findOption(keyword));
-        if (!value.isEmpty() && !(widget == storage->box && storage->isWrittenApart()))
-            savedSettings.insert(keyword, value);
-    }
+    collectBoundWidgets();
+    if (storage->isWrittenApart())
+        savedSettings.remove(boundWidgets.key(storage->box));
     for (const BixCheckBoxButton *button : qAsConst(checkBoxButtons)) {
         if (button->isChecked())
             continue;
