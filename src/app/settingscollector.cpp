@@ -12,8 +12,7 @@ const Settings &SettingsCollector::collect()
     settings.clear();
     QList<Tab *> collected;
     for (Tab *page : pages) {
-        // Installed options are the printer's and no user's.
-        if (QLatin1String(page->metaObject()->className()) != QLatin1String("PrinterTab"))
+        if (page->hasUserSettings())
             collected.append(page);
     }
     for (Tab *page : qAsConst(collected)) {
@@ -22,7 +21,7 @@ const Settings &SettingsCollector::collect()
             settings.replace(entry.key(), entry.value());
     }
     for (Tab *page : qAsConst(collected)) {
-        const QHash<QString, QString> extra = page->extraSettings();
+        const Settings extra = page->extraSettings();
         for (auto entry = extra.cbegin(); entry != extra.cend(); ++entry)
             settings.insert(entry.key(), entry.value());
     }

@@ -106,3 +106,8 @@ QList<bOption *> OptionStore::installedOptions() const
     }
     return found;
 }
+
+bOption *currentOption(const QString &key)
+{
+    return currentStore ? currentStore->find(key) : nullptr;
+}

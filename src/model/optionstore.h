@@ -70,3 +70,6 @@ private:
 /// The selected printer's options; null while none is selected. Written by the Printer page when a
 /// row is selected and by the main dialog when the printer is gone; every page only reads it.
 extern OptionStore *currentStore;
+
+/// The selected printer's option of this keyword; null without a printer too.
+bOption *currentOption(const QString &key);

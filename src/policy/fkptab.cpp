@@ -24,7 +24,7 @@ using PageWidgets::withColon;
 namespace {
 
 // The name of a product, the same in every language.
-const QLatin1String pageTitle("Fleet Keeper");
+constexpr char pageTitle[] = "Fleet Keeper"; // a name, the same in all languages
 
 const QLatin1String toggleOption("FKPToggle");
 const QLatin1String colorOption("FKPColorMode");
@@ -66,40 +66,20 @@ QString savedPassword()
 } // namespace
 
 FKPTab::FKPTab(PanelDialog *dialog)
-    : Tab(dialog)
+    : Tab(dialog, {pageTitle, ":/icons/tab-fkp", PageHead::WithPrinter})
 {
-    FKPTab::setTabName();
+    Tab::setTabName();
     FKPTab::createWidgets();
     FKPTab::connectSignals();
     createLayout();
     toggleFKP();
 }
 
-void FKPTab::setTabName()
-{
-    tabName_ = pageTitle;
-}
-
-QIcon FKPTab::tabIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-fkp"));
-}
-
-QIcon FKPTab::tabConstraintIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-fkp-constraint"));
-}
-
-bool FKPTab::isAvailable()
-{
-    return currentStore != nullptr;
-}
-
 // Widgets
 
 void FKPTab::createWidgets()
 {
-    fkpButtons = named(new BixButtonGroup(this, withColon(pageTitle)), "butGroupFKP");
+    fkpButtons = named(new BixButtonGroup(this, withColon(QLatin1String(pageTitle))), "butGroupFKP");
     PageWidgets::addButtons(fkpButtons, switchButtons, &FKPTab::tr);
     fkpButtons->setButton(0);
 
@@ -273,7 +253,7 @@ void FKPTab::verifyFailure(const QString &message)
 void FKPTab::showMessage(const QString &text)
 {
     QMessageBox box(this);
-    box.setWindowTitle(pageTitle);
+    box.setWindowTitle(QLatin1String(pageTitle));
     box.setText(text);
     box.exec();
 }

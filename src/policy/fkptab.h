@@ -24,11 +24,7 @@ class FKPTab : public Tab
 public:
     explicit FKPTab(PanelDialog *dialog);
 
-    void setTabName() override;
     void createWidgets() override;
-    QIcon tabIcon() override;
-    QIcon tabConstraintIcon() override;
-    bool isAvailable() override;
     void reload() override;
     QHash<QString, QString> collectSettings() override;
     bool hasMarks() override { return marked; }

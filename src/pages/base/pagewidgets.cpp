@@ -1,14 +1,10 @@
 #include "pages/base/pagewidgets.h"
 
-#include "model/optionstore.h"
-#include "pages/base/widgetmap.h"
 #include "widgets/bixbuttongroup.h"
 #include "widgets/comboboxex.h"
 
 #include <QDialog>
 #include <QLabel>
-
-#include <algorithm>
 
 namespace PageWidgets {
 
@@ -37,13 +33,6 @@ void simplifyTitleBar(QDialog *dialog)
 {
     dialog->setWindowFlags(dialog->windowFlags() &
                            ~(Qt::WindowContextHelpButtonHint | Qt::WindowMinMaxButtonsHint));
-}
-
-bool printerHasAnyOf(const WidgetMap &widgets)
-{
-    return currentStore && std::any_of(widgets.begin(), widgets.end(), [](const auto &entry) {
-               return currentStore->find(entry.first) != nullptr;
-           });
 }
 
 } // namespace PageWidgets

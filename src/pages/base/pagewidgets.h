@@ -8,7 +8,6 @@ class ComboBoxEx;
 class QDialog;
 class QLabel;
 class QWidget;
-class WidgetMap;
 
 /// What several option pages do alike when they make their widgets. Nothing is registered here:
 /// the order of a page's registrations is its own.
@@ -59,8 +58,5 @@ void addButtons(BixButtonGroup *group, const ButtonRow (&rows)[N], Translate tr)
 
 /// Leaves the close button alone in a dialog's title bar.
 void simplifyTitleBar(QDialog *dialog);
-
-/// True if a printer is selected and has at least one of the keywords.
-bool printerHasAnyOf(const WidgetMap &widgets);
 
 } // namespace PageWidgets

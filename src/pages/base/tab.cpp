@@ -13,12 +13,16 @@
 #include "widgets/comboboxex.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QMessageBox>
 #include <QSlider>
 
-Tab::Tab(PanelDialog *dialog)
+#include <algorithm>
+
+Tab::Tab(PanelDialog *dialog, const PageHead &head)
     : QWidget(dialog)
     , dialog(dialog)
+    , head(head)
 {
     setStyleSheet(QStringLiteral(
         "ComboBoxEx{ margin-bottom: 8px }BixButtonGroup{ margin-bottom: 8px }QCheckBox{ "
@@ -36,19 +40,40 @@ QString Tab::tabName()
     return QStringLiteral("ERROR");
 }
 
+void Tab::setTabName()
+{
+    tabName_ = QCoreApplication::translate(metaObject()->className(), head.title);
+}
+
 QIcon Tab::tabIcon()
 {
-    return QIcon(QStringLiteral(":/icons/tab-basic"));
+    return QIcon(QLatin1String(head.icon));
 }
 
 QIcon Tab::tabConstraintIcon()
 {
-    return QIcon(QStringLiteral(":/icons/tab-basic-constraint"));
+    return QIcon(QLatin1String(head.icon) + QStringLiteral("-constraint"));
+}
+
+bool Tab::isAvailable()
+{
+    switch (head.availability) {
+    case PageHead::Always:
+        return true;
+    case PageHead::WithPrinter:
+        return currentStore != nullptr;
+    case PageHead::WithAnOption:
+        return std::any_of(boundWidgets.begin(), boundWidgets.end(),
+                           [](const auto &entry) { return findOption(entry.first) != nullptr; });
+    case PageHead::Never:
+        break;
+    }
+    return false;
 }
 
 bOption *Tab::findOption(const QString &keyword)
 {
-    return currentStore ? currentStore->find(keyword) : nullptr;
+    return currentOption(keyword);
 }
 
 // Loading

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "pages/base/pagehead.h"
 #include "pages/base/paneldialog.h"
 #include "pages/base/widgetmap.h"
+#include "storage/settingsfile.h"
 
 #include <QHash>
 #include <QIcon>
@@ -33,10 +35,10 @@ class Tab : public QWidget
     Q_OBJECT
 
 public:
-    explicit Tab(PanelDialog *dialog);
+    explicit Tab(PanelDialog *dialog, const PageHead &head = {});
 
     /// Sets the translated title of the page.
-    virtual void setTabName() = 0;
+    virtual void setTabName();
     /// Brings every bound widget in line with the selected printer's options and its saved values.
     virtual void loadOptions();
     virtual void fillComboBox(ComboBoxEx *box, bOption *option);
@@ -55,14 +57,14 @@ public:
     /// Shown instead of tabIcon() while the page has a mark.
     virtual QIcon tabConstraintIcon();
     /// Whether the page can be used for the selected printer; its tab shows only then.
-    virtual bool isAvailable() = 0;
+    virtual bool isAvailable();
     /// Loads the page after a change of the printer or profile. The bound widgets are silent
     /// meanwhile, so that no constraint pass runs before the page stands.
     virtual void reload();
     /// The page's settings: keyword and choice key, "True" or "False", or a number.
     virtual QHash<QString, QString> collectSettings();
     /// Settings that are no option of the PPD, or that must stay out of the walk over options.
-    virtual QHash<QString, QString> extraSettings() { return {}; }
+    virtual Settings extraSettings() { return {}; }
     /// Marks the widget of a keyword. `value` is what the mark is about, for pages that need it.
     virtual void markKeyword(const QString &keyword, const QString &value);
     virtual void clearMarks();
@@ -100,6 +102,8 @@ public slots:
 public:
     /// The title in the list of pages.
     QString tabName();
+    /// False for the Printer page: installed options are the printer's and no user's.
+    virtual bool hasUserSettings() const { return true; }
     /// Forgets marks of the pass before.
     void setMarked(bool on) { marked = on; }
 
@@ -140,6 +144,7 @@ protected:
     void removeConstraintWidget(const QString &key);
 
     PanelDialog *const dialog;
+    const PageHead head;
     QString tabName_;
     bool marked = false; ///< the page has at least one mark
     WidgetMap constraintWidgets;

@@ -29,35 +29,15 @@ constexpr const char *paperAliases[] = {"PageRegion", "ImageableArea", "PaperDim
 } // namespace
 
 GeneralTab::GeneralTab(PanelDialog *dialog)
-    : Tab(dialog)
+    : Tab(dialog, {QT_TRANSLATE_NOOP("GeneralTab", "Basic"), ":/icons/tab-basic", PageHead::WithPrinter})
 {
-    GeneralTab::setTabName();
+    Tab::setTabName();
     GeneralTab::createWidgets();
     connectBoundWidgets();
     // After the connections above: a click first moves the option, then mirrors to the other page.
     connect(colorGroup_, qOverload<int>(&BixButtonGroup::buttonClicked), dialog,
             &PanelDialog::toggleColorMode);
     createLayout();
-}
-
-void GeneralTab::setTabName()
-{
-    tabName_ = tr("Basic");
-}
-
-QIcon GeneralTab::tabIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-basic"));
-}
-
-QIcon GeneralTab::tabConstraintIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-basic-constraint"));
-}
-
-bool GeneralTab::isAvailable()
-{
-    return currentStore != nullptr;
 }
 
 // Widgets

@@ -12,12 +12,8 @@ class GeneralTab : public Tab
 public:
     explicit GeneralTab(PanelDialog *dialog);
 
-    void setTabName() override;
     void addComboBoxItems(ComboBoxEx *box, bOption *option) override;
     void createWidgets() override;
-    QIcon tabIcon() override;
-    QIcon tabConstraintIcon() override;
-    bool isAvailable() override;
     void reload() override;
     QHash<QString, QString> collectSettings() override;
     void clearMarks() override;

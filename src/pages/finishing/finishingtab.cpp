@@ -110,32 +110,12 @@ constexpr ChoiceRow unfolded[] = {
 } // namespace
 
 FinishingTab::FinishingTab(PanelDialog *dialog)
-    : Tab(dialog)
+    : Tab(dialog, {QT_TRANSLATE_NOOP("FinishingTab", "Finishing"), ":/icons/tab-finishing", PageHead::WithAnOption})
 {
-    FinishingTab::setTabName();
+    Tab::setTabName();
     FinishingTab::createWidgets();
     FinishingTab::connectSignals();
     createLayout();
-}
-
-void FinishingTab::setTabName()
-{
-    tabName_ = tr("Finishing");
-}
-
-QIcon FinishingTab::tabIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-finishing"));
-}
-
-QIcon FinishingTab::tabConstraintIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-finishing-constraint"));
-}
-
-bool FinishingTab::isAvailable()
-{
-    return PageWidgets::printerHasAnyOf(boundWidgets);
 }
 
 // Widgets

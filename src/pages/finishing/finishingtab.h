@@ -20,11 +20,7 @@ class FinishingTab : public Tab
 public:
     explicit FinishingTab(PanelDialog *dialog);
 
-    void setTabName() override;
     void createWidgets() override;
-    QIcon tabIcon() override;
-    QIcon tabConstraintIcon() override;
-    bool isAvailable() override;
     void reload() override;
     QHash<QString, QString> collectSettings() override;
     void markKeyword(const QString &keyword, const QString &value) override;

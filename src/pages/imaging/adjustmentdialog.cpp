@@ -92,7 +92,7 @@ QString keyOf(const ValueRow &row)
 
 const bOption *findOption(const QString &keyword)
 {
-    return currentStore ? currentStore->find(keyword) : nullptr;
+    return currentOption(keyword);
 }
 
 /// The saved exact value of a row, brought into its range.

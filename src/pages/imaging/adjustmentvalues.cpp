@@ -16,7 +16,7 @@ QString exactKey(const QString &key)
 
 bool isCustom(const QString &keyword)
 {
-    const bOption *option = currentStore ? currentStore->find(keyword) : nullptr;
+    const bOption *option = currentOption(keyword);
     return option && option->currentKey() == Keys::yes;
 }
 

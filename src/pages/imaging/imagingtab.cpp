@@ -104,34 +104,14 @@ ColorButton buttonForColor(const QString &key)
 } // namespace
 
 ImagingTab::ImagingTab(PanelDialog *dialog)
-    : Tab(dialog)
+    : Tab(dialog, {QT_TRANSLATE_NOOP("ImagingTab", "Imaging"), ":/icons/tab-imaging", PageHead::WithAnOption})
 {
-    ImagingTab::setTabName();
+    Tab::setTabName();
     ImagingTab::createWidgets();
     // After the page's own connections: a click in the colour group mirrors to the other page and
     // forgets adjustments before it moves the option.
     connectBoundWidgets();
     createLayout();
-}
-
-void ImagingTab::setTabName()
-{
-    tabName_ = tr("Imaging");
-}
-
-QIcon ImagingTab::tabIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-imaging"));
-}
-
-QIcon ImagingTab::tabConstraintIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-imaging-constraint"));
-}
-
-bool ImagingTab::isAvailable()
-{
-    return PageWidgets::printerHasAnyOf(boundWidgets);
 }
 
 // Widgets

@@ -19,14 +19,10 @@ class ImagingTab : public Tab
 public:
     explicit ImagingTab(PanelDialog *dialog);
 
-    void setTabName() override;
     void createWidgets() override;
-    QIcon tabIcon() override;
-    QIcon tabConstraintIcon() override;
-    bool isAvailable() override;
     void reload() override;
     QHash<QString, QString> collectSettings() override;
-    QHash<QString, QString> extraSettings() override { return {}; }
+    Settings extraSettings() override { return {}; }
     void clearMarks() override;
     void retranslate() override;
 

@@ -117,7 +117,7 @@ bool JobAccounting::holdsBack() const
 
 void JobAccounting::loadAccountSettings()
 {
-    const bOption *option = currentStore ? currentStore->find(keyword) : nullptr;
+    const bOption *option = currentOption(keyword);
     // The list belongs to the printer; nothing of another one's stays.
     accounts.clear();
     idBox->clear();
@@ -159,7 +159,7 @@ void JobAccounting::loadId(const QString &defaultId)
 
 void JobAccounting::save(Settings *settings) const
 {
-    if (currentStore && currentStore->find(keyword)) {
+    if (currentOption(keyword)) {
         const QString id = currentId();
         if (!button->isEnabled() || !button->isChecked()) {
             settings->insert(keyword, offKey);

@@ -27,7 +27,7 @@ const QLatin1String allowed("[A-Za-z0-9._%+-@]{64}");
 
 bOption *emailOption()
 {
-    return currentStore ? currentStore->find(keyword) : nullptr;
+    return currentOption(keyword);
 }
 
 } // namespace

@@ -84,7 +84,7 @@ bool JobLogin::holdsBack() const
 
 void JobLogin::loadLoginSettings()
 {
-    const bool available = currentStore && currentStore->find(QStringLiteral("cUserLogin"));
+    const bool available = currentOption(QStringLiteral("cUserLogin"));
     const QString name = available ? readSetting(nameKey) : QString();
     const QString password = available ? readSetting(passwordKey) : QString();
     button->setEnabled(available);

@@ -32,7 +32,7 @@ enum Overwrite
 
 const bOption *findOption(const QString &keyword)
 {
-    return currentStore ? currentStore->find(keyword) : nullptr;
+    return currentOption(keyword);
 }
 
 } // namespace

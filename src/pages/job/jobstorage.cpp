@@ -38,7 +38,7 @@ constexpr int longestPassword = 16;
 
 const bOption *storageOption()
 {
-    return currentStore ? currentStore->find(keyword) : nullptr;
+    return currentOption(keyword);
 }
 
 } // namespace

@@ -38,9 +38,9 @@ constexpr int gap = 6;
 } // namespace
 
 JobTab::JobTab(PanelDialog *dialog)
-    : Tab(dialog)
+    : Tab(dialog, {QT_TRANSLATE_NOOP("JobTab", "Job"), ":/icons/tab-job", PageHead::WithAnOption})
 {
-    JobTab::setTabName();
+    Tab::setTabName();
     JobTab::createWidgets();
     connectBoundWidgets();
     createConnections();
@@ -50,26 +50,6 @@ JobTab::JobTab(PanelDialog *dialog)
 }
 
 JobTab::~JobTab() = default;
-
-void JobTab::setTabName()
-{
-    tabName_ = tr("Job");
-}
-
-QIcon JobTab::tabIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-job"));
-}
-
-QIcon JobTab::tabConstraintIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-job-constraint"));
-}
-
-bool JobTab::isAvailable()
-{
-    return PageWidgets::printerHasAnyOf(boundWidgets);
-}
 
 // Widgets
 
@@ -577,7 +557,7 @@ QHash<QString, QString> JobTab::collectSettings()
     return savedSettings;
 }
 
-QHash<QString, QString> JobTab::extraSettings()
+Settings JobTab::extraSettings()
 {
     Settings settings;
     email->save(&settings);

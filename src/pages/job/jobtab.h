@@ -30,14 +30,10 @@ public:
     explicit JobTab(PanelDialog *dialog);
     ~JobTab() override;
 
-    void setTabName() override;
     void createWidgets() override;
-    QIcon tabIcon() override;
-    QIcon tabConstraintIcon() override;
-    bool isAvailable() override;
     void reload() override;
     QHash<QString, QString> collectSettings() override;
-    QHash<QString, QString> extraSettings() override;
+    Settings extraSettings() override;
     void clearMarks() override;
     void beforeConstraints() override;
     bool hasMarks() override;

@@ -21,33 +21,12 @@ constexpr PageWidgets::ButtonRow bindingButtons[] = {
 } // namespace
 
 BookletTab::BookletTab(PanelDialog *dialog)
-    : Tab(dialog)
+    : Tab(dialog, {QT_TRANSLATE_NOOP("BookletTab", "Layout"), ":/icons/tab-layout", PageHead::WithAnOption})
 {
-    BookletTab::setTabName();
+    Tab::setTabName();
     BookletTab::createWidgets();
     BookletTab::connectSignals();
     createLayout();
-}
-
-void BookletTab::setTabName()
-{
-    tabName_ = tr("Layout");
-    tabName(); // complains if a catalogue leaves it empty
-}
-
-QIcon BookletTab::tabIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-layout"));
-}
-
-QIcon BookletTab::tabConstraintIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-layout-constraint"));
-}
-
-bool BookletTab::isAvailable()
-{
-    return PageWidgets::printerHasAnyOf(boundWidgets);
 }
 
 void BookletTab::createWidgets()

@@ -10,12 +10,8 @@ class BookletTab : public Tab
 public:
     explicit BookletTab(PanelDialog *dialog);
 
-    void setTabName() override;
     void createWidgets() override;
     void beforeLoad() override {}
-    QIcon tabIcon() override;
-    QIcon tabConstraintIcon() override;
-    bool isAvailable() override;
 
     virtual void connectSignals();
 

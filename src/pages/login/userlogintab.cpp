@@ -31,17 +31,12 @@ QString decrypted(const QString &saved)
 } // namespace
 
 UserLoginTab::UserLoginTab(PanelDialog *dialog)
-    : Tab(dialog)
+    : Tab(dialog, {QT_TRANSLATE_NOOP("UserLoginTab", "User Login"), ":/icons/tab-basic", PageHead::Never})
 {
-    UserLoginTab::setTabName();
+    Tab::setTabName();
     UserLoginTab::createWidgets();
     createConnections();
     createLayout();
-}
-
-void UserLoginTab::setTabName()
-{
-    tabName_ = tr("User Login");
 }
 
 // Widgets
@@ -176,9 +171,9 @@ bool UserLoginTab::hasMarks()
 
 // Settings
 
-QHash<QString, QString> UserLoginTab::extraSettings()
+Settings UserLoginTab::extraSettings()
 {
-    QHash<QString, QString> settings;
+    Settings settings;
     if (!loginButton->isChecked())
         return settings;
     const auto store = [&settings](const QString &key, const QString &text) {

@@ -16,11 +16,9 @@ class UserLoginTab : public Tab
 public:
     explicit UserLoginTab(PanelDialog *dialog);
 
-    void setTabName() override;
     void createWidgets() override;
-    bool isAvailable() override { return false; }
     void reload() override;
-    QHash<QString, QString> extraSettings() override;
+    Settings extraSettings() override;
     bool hasMarks() override;
     void retranslate() override;
 

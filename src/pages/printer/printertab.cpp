@@ -42,7 +42,7 @@ void setCell(QTableWidget *table, int row, Column column, const QString &text)
 } // namespace
 
 PrinterTab::PrinterTab(PanelDialog *dialog)
-    : Tab(dialog)
+    : Tab(dialog, {QT_TRANSLATE_NOOP("PrinterTab", "Printer"), ":/icons/tab-printer", PageHead::Always})
 {
     PrinterTab::createWidgets();
 }
@@ -50,21 +50,6 @@ PrinterTab::PrinterTab(PanelDialog *dialog)
 PrinterTab::~PrinterTab()
 {
     currentStore = nullptr;
-}
-
-void PrinterTab::setTabName()
-{
-    tabName();
-}
-
-QIcon PrinterTab::tabIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-printer"));
-}
-
-QIcon PrinterTab::tabConstraintIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-printer-constraint"));
 }
 
 QTableWidget *PrinterTab::table() const
@@ -77,7 +62,7 @@ QTableWidget *PrinterTab::table() const
 void PrinterTab::createWidgets()
 {
     setContentsMargins(3, 3, 3, 3);
-    tabName_ = tr("Printer");
+    Tab::setTabName();
     createTable();
 
     installedHeader = new QLabel(tr("Installed options"), this);
@@ -212,7 +197,7 @@ void PrinterTab::clearPrinterSelection()
 void PrinterTab::retranslate()
 {
     setHeaders();
-    tabName_ = tr("Printer");
+    setTabName();
     fillStatusColumn();
     styleRootWarning(); // the window has given the page its colours since it was made
     rootWarning->setText(tr("Root access is required to make changes to installable options"));

@@ -26,15 +26,12 @@ public:
     explicit PrinterTab(PanelDialog *dialog);
     ~PrinterTab() override;
 
-    void setTabName() override;
     void createWidgets() override;
     void connectComboBox(ComboBoxEx *box) override;
     void connectCheckBox(QCheckBox *box) override;
-    QIcon tabIcon() override;
-    QIcon tabConstraintIcon() override;
-    bool isAvailable() override { return true; }
     void reload() override;
     void retranslate() override;
+    bool hasUserSettings() const override { return false; }
 
     /// A reload that keeps the widgets of the installed options.
     virtual void refreshPage();

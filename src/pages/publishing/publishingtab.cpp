@@ -124,32 +124,12 @@ const char *message(PageList::Verdict verdict)
 } // namespace
 
 PublishingTab::PublishingTab(PanelDialog *dialog)
-    : Tab(dialog)
+    : Tab(dialog, {QT_TRANSLATE_NOOP("PublishingTab", "Publishing"), ":/icons/tab-publishing", PageHead::WithAnOption})
 {
     PublishingTab::createWidgets();
     connectBoundWidgets();
     createLayout();
     createConnections();
-}
-
-void PublishingTab::setTabName()
-{
-    tabName(); // complains if a catalogue leaves the title empty
-}
-
-QIcon PublishingTab::tabIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-publishing"));
-}
-
-QIcon PublishingTab::tabConstraintIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-publishing-constraint"));
-}
-
-bool PublishingTab::isAvailable()
-{
-    return PageWidgets::printerHasAnyOf(boundWidgets);
 }
 
 // Widgets
@@ -191,7 +171,7 @@ void PublishingTab::createWidgets()
 
 void PublishingTab::retranslate()
 {
-    tabName_ = tr("Publishing");
+    Tab::setTabName();
     for (int i = 0; i < ModeCount; ++i) {
         ConstraintMark::setPlainText(headings[i], tr(modeRows[i].text));
         ButtonCaption::set(buttons[i], tr(modeRows[i].caption.text, modeRows[i].caption.comment),
@@ -531,9 +511,9 @@ bool PublishingTab::hasMarks()
 
 // Settings
 
-QHash<QString, QString> PublishingTab::extraSettings()
+Settings PublishingTab::extraSettings()
 {
-    QHash<QString, QString> settings;
+    Settings settings;
     addCoverSettings(&settings);
     addPageInsertSettings(&settings);
     addInterleavingSettings(&settings);
@@ -554,7 +534,7 @@ int PublishingTab::sidesCode() const
     return code;
 }
 
-void PublishingTab::addCoverSettings(QHash<QString, QString> *settings) const
+void PublishingTab::addCoverSettings(Settings *settings) const
 {
     settings->insert(QStringLiteral("BqCoverModeEnabled"), Keys::yesOrNo(isOn(Cover)));
     if (!isOn(Cover))
@@ -567,7 +547,7 @@ void PublishingTab::addCoverSettings(QHash<QString, QString> *settings) const
     settings->insert(QStringLiteral("BQCoverMedia"), media[Cover].box->currentText());
 }
 
-void PublishingTab::addPageInsertSettings(QHash<QString, QString> *settings) const
+void PublishingTab::addPageInsertSettings(Settings *settings) const
 {
     const bool on = isOn(PageInsert);
     const int code = int(isPrinted(InsertFront)) + 2 * int(isPrinted(InsertBack));
@@ -580,7 +560,7 @@ void PublishingTab::addPageInsertSettings(QHash<QString, QString> *settings) con
     settings->insert(QStringLiteral("BQPageinsertMedia"), media[PageInsert].box->currentText());
 }
 
-void PublishingTab::addInterleavingSettings(QHash<QString, QString> *settings) const
+void PublishingTab::addInterleavingSettings(Settings *settings) const
 {
     const bool on = isOn(Interleaving);
     const int code = !on ? 0 : isPrinted(Backing) ? 2 : 1;

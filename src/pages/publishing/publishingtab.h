@@ -23,13 +23,9 @@ class PublishingTab : public Tab
 public:
     explicit PublishingTab(PanelDialog *dialog);
 
-    void setTabName() override;
     void createWidgets() override;
-    QIcon tabIcon() override;
-    QIcon tabConstraintIcon() override;
-    bool isAvailable() override;
     void reload() override;
-    QHash<QString, QString> extraSettings() override;
+    Settings extraSettings() override;
     void clearMarks() override;
     void beforeConstraints() override;
     /// A list of pages that is missing or not good counts as a mark.
@@ -99,9 +95,9 @@ private:
     void loadCover();
     void loadPageInsert();
     void loadInterleaving();
-    void addCoverSettings(QHash<QString, QString> *settings) const;
-    void addPageInsertSettings(QHash<QString, QString> *settings) const;
-    void addInterleavingSettings(QHash<QString, QString> *settings) const;
+    void addCoverSettings(Settings *settings) const;
+    void addPageInsertSettings(Settings *settings) const;
+    void addInterleavingSettings(Settings *settings) const;
     int sidesCode() const;
     void setConflict(Mode mode, bool on);
 

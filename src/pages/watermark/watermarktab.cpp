@@ -88,33 +88,13 @@ BixCheckBoxButton *pictureButton(QWidget *parent, const char *icon, const QStrin
 } // namespace
 
 WatermarkTab::WatermarkTab(PanelDialog *dialog)
-    : Tab(dialog)
+    : Tab(dialog, {QT_TRANSLATE_NOOP("WatermarkTab", "Watermark"), ":/icons/tab-watermark", PageHead::WithAnOption})
 {
-    WatermarkTab::setTabName();
+    Tab::setTabName();
     WatermarkTab::createWidgets();
     connectBoundWidgets();
     createConnections();
     createLayout();
-}
-
-void WatermarkTab::setTabName()
-{
-    tabName_ = tr("Watermark");
-}
-
-QIcon WatermarkTab::tabIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-watermark"));
-}
-
-QIcon WatermarkTab::tabConstraintIcon()
-{
-    return QIcon(QStringLiteral(":/icons/tab-watermark-constraint"));
-}
-
-bool WatermarkTab::isAvailable()
-{
-    return PageWidgets::printerHasAnyOf(boundWidgets);
 }
 
 // Widgets
@@ -574,13 +554,13 @@ QHash<QString, QString> WatermarkTab::collectSettings()
     return savedSettings;
 }
 
-QHash<QString, QString> WatermarkTab::extraSettings()
+Settings WatermarkTab::extraSettings()
 {
     const QString selected = text.box->currentText();
     const bool custom = isCustom(selected);
     if (custom && findOption(textKeyword))
         customWatermarks.insert(selected, shownLook());
-    QMultiHash<QString, QString> settings;
+    Settings settings;
     for (auto entry = customWatermarks.cbegin(); entry != customWatermarks.cend(); ++entry)
         settings.insert(storeKey, Watermark::toLine({entry.key(), entry.value()}));
     if (custom)

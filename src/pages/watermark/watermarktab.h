@@ -26,16 +26,12 @@ class WatermarkTab : public Tab
 public:
     explicit WatermarkTab(PanelDialog *dialog);
 
-    void setTabName() override;
     void createWidgets() override;
     void beforeLoad() override;
-    QIcon tabIcon() override;
-    QIcon tabConstraintIcon() override;
-    bool isAvailable() override;
     void reload() override;
     QHash<QString, QString> collectSettings() override;
     /// One entry for each custom watermark, all under the same key.
-    QHash<QString, QString> extraSettings() override;
+    Settings extraSettings() override;
     void retranslate() override;
 
 private slots:
