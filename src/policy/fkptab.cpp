@@ -79,7 +79,8 @@ FKPTab::FKPTab(PanelDialog *dialog)
 
 void FKPTab::createWidgets()
 {
-    fkpButtons = named(new BixButtonGroup(this, withColon(QLatin1String(pageTitle))), "butGroupFKP");
+    fkpButtons =
+        named(new BixButtonGroup(this, withColon(QLatin1String(pageTitle))), "butGroupFKP");
     PageWidgets::addButtons(fkpButtons, switchButtons, &FKPTab::tr);
     fkpButtons->setButton(0);
 

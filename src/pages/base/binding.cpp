@@ -17,7 +17,7 @@ const Binding &Binding::of(const QObject *widget)
     static const GroupBinding group;
     static const SliderBinding slider;
     static const LabelBinding label;
-    static const Binding *const all[] = {&combo, &check, &radio, &checkButton,
+    static const Binding *const all[] = {&combo, &check,  &radio, &checkButton,
                                          &group, &slider, &label};
     static const Binding none;
     for (const Binding *each : all) {

@@ -29,7 +29,8 @@ constexpr const char *paperAliases[] = {"PageRegion", "ImageableArea", "PaperDim
 } // namespace
 
 GeneralTab::GeneralTab(PanelDialog *dialog)
-    : Tab(dialog, {QT_TRANSLATE_NOOP("GeneralTab", "Basic"), ":/icons/tab-basic", PageHead::WithPrinter})
+    : Tab(dialog,
+          {QT_TRANSLATE_NOOP("GeneralTab", "Basic"), ":/icons/tab-basic", PageHead::WithPrinter})
 {
     Tab::setTabName();
     GeneralTab::createWidgets();

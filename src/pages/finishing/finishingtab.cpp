@@ -110,7 +110,8 @@ constexpr ChoiceRow unfolded[] = {
 } // namespace
 
 FinishingTab::FinishingTab(PanelDialog *dialog)
-    : Tab(dialog, {QT_TRANSLATE_NOOP("FinishingTab", "Finishing"), ":/icons/tab-finishing", PageHead::WithAnOption})
+    : Tab(dialog, {QT_TRANSLATE_NOOP("FinishingTab", "Finishing"), ":/icons/tab-finishing",
+                   PageHead::WithAnOption})
 {
     Tab::setTabName();
     FinishingTab::createWidgets();

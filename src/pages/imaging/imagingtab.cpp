@@ -104,7 +104,8 @@ ColorButton buttonForColor(const QString &key)
 } // namespace
 
 ImagingTab::ImagingTab(PanelDialog *dialog)
-    : Tab(dialog, {QT_TRANSLATE_NOOP("ImagingTab", "Imaging"), ":/icons/tab-imaging", PageHead::WithAnOption})
+    : Tab(dialog, {QT_TRANSLATE_NOOP("ImagingTab", "Imaging"), ":/icons/tab-imaging",
+                   PageHead::WithAnOption})
 {
     Tab::setTabName();
     ImagingTab::createWidgets();

@@ -21,7 +21,8 @@ constexpr PageWidgets::ButtonRow bindingButtons[] = {
 } // namespace
 
 BookletTab::BookletTab(PanelDialog *dialog)
-    : Tab(dialog, {QT_TRANSLATE_NOOP("BookletTab", "Layout"), ":/icons/tab-layout", PageHead::WithAnOption})
+    : Tab(dialog,
+          {QT_TRANSLATE_NOOP("BookletTab", "Layout"), ":/icons/tab-layout", PageHead::WithAnOption})
 {
     Tab::setTabName();
     BookletTab::createWidgets();

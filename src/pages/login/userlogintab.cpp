@@ -31,7 +31,8 @@ QString decrypted(const QString &saved)
 } // namespace
 
 UserLoginTab::UserLoginTab(PanelDialog *dialog)
-    : Tab(dialog, {QT_TRANSLATE_NOOP("UserLoginTab", "User Login"), ":/icons/tab-basic", PageHead::Never})
+    : Tab(dialog,
+          {QT_TRANSLATE_NOOP("UserLoginTab", "User Login"), ":/icons/tab-basic", PageHead::Never})
 {
     Tab::setTabName();
     UserLoginTab::createWidgets();

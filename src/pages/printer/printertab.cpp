@@ -42,7 +42,8 @@ void setCell(QTableWidget *table, int row, Column column, const QString &text)
 } // namespace
 
 PrinterTab::PrinterTab(PanelDialog *dialog)
-    : Tab(dialog, {QT_TRANSLATE_NOOP("PrinterTab", "Printer"), ":/icons/tab-printer", PageHead::Always})
+    : Tab(dialog,
+          {QT_TRANSLATE_NOOP("PrinterTab", "Printer"), ":/icons/tab-printer", PageHead::Always})
 {
     PrinterTab::createWidgets();
 }

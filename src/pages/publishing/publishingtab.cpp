@@ -124,7 +124,8 @@ const char *message(PageList::Verdict verdict)
 } // namespace
 
 PublishingTab::PublishingTab(PanelDialog *dialog)
-    : Tab(dialog, {QT_TRANSLATE_NOOP("PublishingTab", "Publishing"), ":/icons/tab-publishing", PageHead::WithAnOption})
+    : Tab(dialog, {QT_TRANSLATE_NOOP("PublishingTab", "Publishing"), ":/icons/tab-publishing",
+                   PageHead::WithAnOption})
 {
     PublishingTab::createWidgets();
     connectBoundWidgets();

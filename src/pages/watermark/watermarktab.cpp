@@ -88,7 +88,8 @@ BixCheckBoxButton *pictureButton(QWidget *parent, const char *icon, const QStrin
 } // namespace
 
 WatermarkTab::WatermarkTab(PanelDialog *dialog)
-    : Tab(dialog, {QT_TRANSLATE_NOOP("WatermarkTab", "Watermark"), ":/icons/tab-watermark", PageHead::WithAnOption})
+    : Tab(dialog, {QT_TRANSLATE_NOOP("WatermarkTab", "Watermark"), ":/icons/tab-watermark",
+                   PageHead::WithAnOption})
 {
     Tab::setTabName();
     WatermarkTab::createWidgets();
