@@ -59,6 +59,7 @@ OptionChoice *bOption::findChoiceByText(const QString &text) const
 
 void bOption::setCurrent(OptionChoice *choice)
 {
+    Q_ASSERT(!current_ || choices.contains(current_));
     if (current_)
         current_->release();
     if (!choice || choices.lastIndexOf(choice) < 0)

@@ -59,6 +59,7 @@ void OptionChoice::addGroupConstraint(const OptionRefList &rule)
 
 void OptionChoice::arm()
 {
+    Q_ASSERT(option_ && option_->current() == this); // only a selected value blocks others
     const int priority = option_->priority();
     for (const OptionRef &other : qAsConst(pairConstraints)) {
         // The lower number wins, so a stronger option never yields; equals block each other.
@@ -66,6 +67,7 @@ void OptionChoice::arm()
             appendOnce(other.choice->activePairBlocks, {option_, this});
     }
     for (const OptionRefList &rule : qAsConst(groupConstraints)) {
+        Q_ASSERT(rule.size() >= 3);
         if (conditionsHold(rule))
             appendOnce(rule.last().choice->activeGroupBlocks, rule);
     }
@@ -74,8 +76,10 @@ void OptionChoice::arm()
 void OptionChoice::release()
 {
     // Whatever the priorities say now: they may have changed since the block was posted.
-    for (const OptionRef &other : qAsConst(pairConstraints))
+    for (const OptionRef &other : qAsConst(pairConstraints)) {
         other.choice->activePairBlocks.removeOne({option_, this});
+        Q_ASSERT(!other.choice->activePairBlocks.contains({option_, this})); // was posted once
+    }
     for (const OptionRefList &rule : qAsConst(groupConstraints)) {
         // Others block the target, so its own going lifts nothing.
         OptionChoice *target = rule.last().choice;
