@@ -1,5 +1,6 @@
 #include "pages/publishing/pagelist.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <QVector>
 
@@ -107,4 +108,27 @@ PageList::Result PageList::check(const QString &text, bool coverPrintsBothFrontS
     if (!outline(parts.last()).contains(QLatin1Char('n')))
         return {Verdict::EndsInComma, {}};
     return {Verdict::Good, joined(pages)};
+}
+
+const char *PageList::message(Verdict verdict)
+{
+    switch (verdict) {
+    case Verdict::Empty:
+        return QT_TRANSLATE_NOOP("PublishingTab", "Please type a page range.");
+    case Verdict::Malformed:
+        return QT_TRANSLATE_NOOP("PublishingTab", "Please enter your specified pages.");
+    case Verdict::TooMany:
+        return QT_TRANSLATE_NOOP("PublishingTab", "You can only insert up to 50 pages.");
+    case Verdict::InsideCover:
+        return QT_TRANSLATE_NOOP("PublishingTab",
+                                 "You can only enter page numbers between 3 and 511");
+    case Verdict::OutOfRange:
+        return QT_TRANSLATE_NOOP("PublishingTab",
+                                 "You can only enter page numbers between 2 and 511");
+    case Verdict::NoPages:
+    case Verdict::EndsInComma:
+    case Verdict::Good:
+        break;
+    }
+    return nullptr;
 }

@@ -37,4 +37,7 @@ struct Result
 /// Takes time in proportion to the text, whatever ranges it names.
 Result check(const QString &text, bool coverPrintsBothFrontSides);
 
+/// What to tell the user, in the context PublishingTab; null for nothing.
+const char *message(Verdict verdict);
+
 } // namespace PageList

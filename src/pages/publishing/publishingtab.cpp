@@ -4,17 +4,15 @@
 #include "model/optionstore.h"
 #include "pages/base/buttoncaption.h"
 #include "pages/base/errorlabel.h"
-#include "pages/base/pagelayout.h"
 #include "pages/base/paneldialog.h"
 #include "pages/publishing/pagelist.h"
-#include "storage/settingsfile.h"
+#include "pages/publishing/publishingrows.h"
+#include "pages/publishing/publishingsettings.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
 #include "widgets/constraintmark.h"
 
 #include <QCheckBox>
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -23,103 +21,11 @@
 #include <iterator>
 
 using PageWidgets::named;
+using namespace PublishingRows;
 
 namespace {
 
-/// A catalogue may shorten a caption, but not the heading with the same words.
-struct CaptionText
-{
-    const char *text;
-    const char *comment;
-};
-
-struct ModeRow
-{
-    const char *headingName;
-    const char *buttonName;
-    const char *keyword;
-    const char *text; // of the heading
-    CaptionText caption;
-    const char *icon;
-    const char *mediaLabelName;
-    const char *mediaBoxName;
-    const char *mediaKeyword;
-    const char *mediaText;
-};
-
-constexpr ModeRow modeRows[] = {
-    {"lblCvrMode", "chkButCvr", "cCovBut", QT_TRANSLATE_NOOP("PublishingTab", "Cover mode:"),
-     QT_TRANSLATE_NOOP3("PublishingTab", "Cover mode:", "caption"), ":/icons/covermode", "lblCvrM",
-     "cmbBxCvrM", "CvrM", QT_TRANSLATE_NOOP("PublishingTab", "Media for cover:")},
-    {"lblPins", "chkButPins", "cInsBut", QT_TRANSLATE_NOOP("PublishingTab", "Page insert:"),
-     QT_TRANSLATE_NOOP3("PublishingTab", "Page insert:", "caption"), ":/icons/pageinsert",
-     "lblPMed", "cmbBxPMed", "Pmed", QT_TRANSLATE_NOOP("PublishingTab", "Media for page:")},
-    {"lblTint", "chkButTint", "cIntBut",
-     QT_TRANSLATE_NOOP("PublishingTab", "Transparency interleaving:"),
-     QT_TRANSLATE_NOOP3("PublishingTab", "Transparency interleaving:", "caption"),
-     ":/icons/transparency", "lblTMed", "cmbBxTMed", "Tmed",
-     QT_TRANSLATE_NOOP("PublishingTab", "Media for backing:")},
-};
-
-struct TextRow
-{
-    const char *name;
-    const char *text;
-};
-
-constexpr TextRow sidesRows[] = {
-    {"rdButCvrFront", QT_TRANSLATE_NOOP("PublishingTab", "Front")},
-    {"rdButCvrFrontBack", QT_TRANSLATE_NOOP("PublishingTab", "Front and back")},
-};
-
-// The first four are the bits of the code for the sides of a cover, from 1 upwards; the next two
-// those of the code for inserted sheets.
-constexpr TextRow printRows[] = {
-    {"chkBxCvrFrontOut", QT_TRANSLATE_NOOP("PublishingTab", "Outside")},
-    {"chkBxCvrFrontIn", QT_TRANSLATE_NOOP("PublishingTab", "Inside")},
-    {"chkBxCvrBackOut", QT_TRANSLATE_NOOP("PublishingTab", "Outside")},
-    {"chkBxCvrBackIn", QT_TRANSLATE_NOOP("PublishingTab", "Inside")},
-    {"chkBxPinsPrintOntoFront", QT_TRANSLATE_NOOP("PublishingTab", "Print onto front")},
-    {"chkBxPinsPrintOntoBack", QT_TRANSLATE_NOOP("PublishingTab", "Print onto back")},
-    {"chkBxTintPrintOnto", QT_TRANSLATE_NOOP("PublishingTab", "Print onto backing")},
-};
-
-constexpr TextRow captionRows[] = {
-    {"lblCvrPrintOnto", QT_TRANSLATE_NOOP("PublishingTab", "Print onto:")},
-    {"lblCvrFront", QT_TRANSLATE_NOOP("PublishingTab", "Front")},
-    {"lblCvrBack", QT_TRANSLATE_NOOP("PublishingTab", "Back")},
-    {"lblPinsPage", QT_TRANSLATE_NOOP("PublishingTab", "Insert before pages:")},
-    {"lblPinsPageError", QT_TRANSLATE_NOOP("PublishingTab", "Generic error message")},
-};
-
-// The code of a cover without any printed side, by the chosen sides.
-constexpr int blankCoverCodes[] = {16, 32};
-
 constexpr int inputWidth = 185; // at least, in pixels
-
-/// What to tell the user of a list of pages; null for nothing.
-const char *message(PageList::Verdict verdict)
-{
-    switch (verdict) {
-    case PageList::Verdict::Empty:
-        return QT_TRANSLATE_NOOP("PublishingTab", "Please type a page range.");
-    case PageList::Verdict::Malformed:
-        return QT_TRANSLATE_NOOP("PublishingTab", "Please enter your specified pages.");
-    case PageList::Verdict::TooMany:
-        return QT_TRANSLATE_NOOP("PublishingTab", "You can only insert up to 50 pages.");
-    case PageList::Verdict::InsideCover:
-        return QT_TRANSLATE_NOOP("PublishingTab",
-                                 "You can only enter page numbers between 3 and 511");
-    case PageList::Verdict::OutOfRange:
-        return QT_TRANSLATE_NOOP("PublishingTab",
-                                 "You can only enter page numbers between 2 and 511");
-    case PageList::Verdict::NoPages:
-    case PageList::Verdict::EndsInComma:
-    case PageList::Verdict::Good:
-        break;
-    }
-    return nullptr;
-}
 
 } // namespace
 
@@ -138,8 +44,7 @@ PublishingTab::PublishingTab(PanelDialog *dialog)
 void PublishingTab::createWidgets()
 {
     static_assert(std::size(modeRows) == ModeCount && std::size(sidesRows) == SidesCount &&
-                  std::size(printRows) == PrintCount && std::size(captionRows) == CaptionCount &&
-                  std::size(blankCoverCodes) == SidesCount);
+                  std::size(printRows) == PrintCount && std::size(captionRows) == CaptionCount);
     for (int i = 0; i < ModeCount; ++i) {
         const ModeRow &row = modeRows[i];
         headings[i] = named(new QLabel(this), row.headingName);
@@ -263,76 +168,6 @@ void PublishingTab::BlockAllSignals(bool block)
     pagesEdit->blockSignals(block);
 }
 
-// Layout
-
-void PublishingTab::createLayout()
-{
-    setStyleSheet(QStringLiteral(
-        "ComboBoxEx{ margin-bottom: 0px }BixButtonGroup{ margin-bottom: 0px }QCheckBox{ "
-        "margin-bottom: 0px }BixCheckBoxButton{ margin-bottom: 0px; }"));
-    auto *layout = new QHBoxLayout(this);
-    layout->addLayout(createCoverGrid());
-    layout->addWidget(PageLayout::verticalLine(this));
-    layout->addLayout(createInsertGrid());
-}
-
-QGridLayout *PublishingTab::createCoverGrid()
-{
-    for (const Caption caption : {CoverFront, CoverBack})
-        captions[caption]->setStyleSheet(QStringLiteral("margin-left: 20px"));
-    // On the back the inside comes first, as one turns the pages.
-    QWidget *const rows[] = {
-        sides[Front],
-        sides[FrontAndBack],
-        captions[PrintOnto],
-        nullptr,
-        captions[CoverFront],
-        prints[CoverFrontOutside],
-        prints[CoverFrontInside],
-        captions[CoverBack],
-        prints[CoverBackInside],
-        prints[CoverBackOutside],
-        media[Cover].label,
-        media[Cover].box,
-    };
-    for (const Print print : coverPrints)
-        prints[print]->setStyleSheet(QStringLiteral("margin-bottom: 0px; margin-left: 40px"));
-    media[Cover].box->setStyleSheet(QStringLiteral("margin-bottom: 15px"));
-    headings[Interleaving]->setIndent(0); // a margin would add one
-    headings[Interleaving]->setStyleSheet(QStringLiteral("margin-top: 15px; margin-bottom: 0px"));
-
-    auto *grid = new QGridLayout;
-    grid->addWidget(headings[Cover], 0, 0, 1, 2);
-    grid->addWidget(buttons[Cover], 1, 0, 2, 1);
-    for (int i = 0; i < int(std::size(rows)); ++i) {
-        if (rows[i])
-            grid->addWidget(rows[i], i + 1, 1);
-    }
-    grid->addWidget(PageLayout::horizontalLine(this), 13, 0, 1, 3);
-    grid->addWidget(headings[Interleaving], 14, 0, 1, 2);
-    grid->addWidget(buttons[Interleaving], 15, 0, 2, 1);
-    grid->addWidget(prints[Backing], 15, 1);
-    grid->addWidget(media[Interleaving].label, 16, 1);
-    grid->addWidget(media[Interleaving].box, 17, 1);
-    grid->setColumnStretch(3, 1);
-    grid->setRowStretch(22, 1);
-    return grid;
-}
-
-QGridLayout *PublishingTab::createInsertGrid()
-{
-    QWidget *const rows[] = {prints[InsertFront], prints[InsertBack],      captions[InsertPages],
-                             pagesEdit,           media[PageInsert].label, media[PageInsert].box};
-    auto *grid = new QGridLayout;
-    grid->addWidget(headings[PageInsert], 0, 0, 1, 2);
-    grid->addWidget(buttons[PageInsert], 1, 0, 2, 1);
-    for (int i = 0; i < int(std::size(rows)); ++i)
-        grid->addWidget(rows[i], i + 1, 1);
-    grid->setColumnStretch(4, 1);
-    grid->setRowStretch(15, 1);
-    return grid;
-}
-
 // Loading
 
 void PublishingTab::reload()
@@ -357,39 +192,33 @@ void PublishingTab::clearPages()
     setWidgetMark(headings[PageInsert], QString(), false);
 }
 
-void PublishingTab::loadMode(Mode mode, const char *key)
-{
-    buttons[mode]->setChecked(readSetting(QLatin1String(key)) == Keys::yes);
-}
-
 void PublishingTab::loadCover()
 {
-    loadMode(Cover, "BqCoverModeEnabled");
-    const bool both =
-        readSetting(QStringLiteral("BqCovermodeRadioButtonState")) == QLatin1String("2");
-    sides[both ? FrontAndBack : Front]->setChecked(true);
-    const QString code = readSetting(QStringLiteral("BqCoverModeValue"));
-    if (code.isEmpty())
+    const PublishingSettings::Cover saved = PublishingSettings::savedCover();
+    buttons[Cover]->setChecked(saved.on);
+    sides[saved.bothSides ? FrontAndBack : Front]->setChecked(true);
+    if (!saved.hasCode)
         return;
     for (const Print print : coverPrints)
-        prints[print]->setChecked(code.toInt() & 1 << print);
+        prints[print]->setChecked(saved.printed[print]);
     coverRadioButtonSelectionChanged();
 }
 
 void PublishingTab::loadPageInsert()
 {
-    loadMode(PageInsert, "BqPageInsertEnabled");
-    pagesEdit->setText(readSetting(QStringLiteral("BqPageinsertNums")));
+    const PublishingSettings::PageInsert saved = PublishingSettings::savedPageInsert();
+    buttons[PageInsert]->setChecked(saved.on);
+    pagesEdit->setText(saved.pages);
     checkPageInsertInputText();
-    const int code = qMax(0, readSetting(QStringLiteral("BqPageinsertValue")).toInt());
-    prints[InsertFront]->setChecked(code & 1);
-    prints[InsertBack]->setChecked(code & 2);
+    prints[InsertFront]->setChecked(saved.front);
+    prints[InsertBack]->setChecked(saved.back);
 }
 
 void PublishingTab::loadInterleaving()
 {
-    loadMode(Interleaving, "BqIntLvEnabled");
-    prints[Backing]->setChecked(readSetting(QStringLiteral("BqIntLvValue")) == QLatin1String("2"));
+    const PublishingSettings::Interleaving saved = PublishingSettings::savedInterleaving();
+    buttons[Interleaving]->setChecked(saved.on);
+    prints[Backing]->setChecked(saved.backing);
 }
 
 // The user switches something on or off
@@ -460,7 +289,7 @@ void PublishingTab::checkPageInsertInputText()
     pageInsertList = list.pages;
     pageInsertInvalid = list.verdict != PageList::Verdict::Good;
     QLabel *heading = headings[PageInsert];
-    if (const char *text = message(list.verdict))
+    if (const char *text = PageList::message(list.verdict))
         setWidgetMark(heading, tr(text), true);
     else if (list.verdict == PageList::Verdict::EndsInComma)
         captions[PagesError]->hide(); // a mark stays until the next page is typed
@@ -514,60 +343,15 @@ bool PublishingTab::hasMarks()
 
 Settings PublishingTab::extraSettings()
 {
+    const bool printed[] = {isPrinted(CoverFrontOutside), isPrinted(CoverFrontInside),
+                            isPrinted(CoverBackOutside), isPrinted(CoverBackInside)};
     Settings settings;
-    addCoverSettings(&settings);
-    addPageInsertSettings(&settings);
-    addInterleavingSettings(&settings);
+    PublishingSettings::addCover(&settings, isOn(Cover), printed, sides[Front]->isChecked(),
+                                 sides[FrontAndBack]->isChecked(), media[Cover].box->currentText());
+    PublishingSettings::addPageInsert(&settings, isOn(PageInsert), isPrinted(InsertFront),
+                                      isPrinted(InsertBack), pageInsertList,
+                                      media[PageInsert].box->currentText());
+    PublishingSettings::addInterleaving(&settings, isOn(Interleaving), isPrinted(Backing),
+                                        media[Interleaving].box->currentText());
     return settings;
-}
-
-int PublishingTab::sidesCode() const
-{
-    int code = 0;
-    for (const Print print : coverPrints) {
-        if (isPrinted(print))
-            code |= 1 << print;
-    }
-    for (int i = 0; i < SidesCount && code == 0; ++i) {
-        if (sides[i]->isChecked())
-            code = blankCoverCodes[i];
-    }
-    return code;
-}
-
-void PublishingTab::addCoverSettings(Settings *settings) const
-{
-    settings->insert(QStringLiteral("BqCoverModeEnabled"), Keys::yesOrNo(isOn(Cover)));
-    if (!isOn(Cover))
-        return;
-    const char *chosen = sides[Front]->isChecked()          ? "1"
-                         : sides[FrontAndBack]->isChecked() ? "2"
-                                                            : "-1";
-    settings->insert(QStringLiteral("BqCoverModeValue"), QString::number(sidesCode()));
-    settings->insert(QStringLiteral("BqCovermodeRadioButtonState"), QLatin1String(chosen));
-    settings->insert(QStringLiteral("BQCoverMedia"), media[Cover].box->currentText());
-}
-
-void PublishingTab::addPageInsertSettings(Settings *settings) const
-{
-    const bool on = isOn(PageInsert);
-    const int code = int(isPrinted(InsertFront)) + 2 * int(isPrinted(InsertBack));
-    settings->insert(QStringLiteral("BqPageInsertEnabled"), Keys::yesOrNo(on));
-    settings->insert(QStringLiteral("Pins"), Keys::onOrOff(on));
-    settings->insert(QStringLiteral("BqPageinsertValue"), QString::number(on ? code : -1));
-    if (!on)
-        return;
-    settings->insert(QStringLiteral("BqPageinsertNums"), pageInsertList);
-    settings->insert(QStringLiteral("BQPageinsertMedia"), media[PageInsert].box->currentText());
-}
-
-void PublishingTab::addInterleavingSettings(Settings *settings) const
-{
-    const bool on = isOn(Interleaving);
-    const int code = !on ? 0 : isPrinted(Backing) ? 2 : 1;
-    settings->insert(QStringLiteral("BqIntLvEnabled"), Keys::yesOrNo(on));
-    settings->insert(QStringLiteral("BqIntLvValue"), QString::number(code));
-    if (on)
-        settings->insert(QStringLiteral("BQTransparencyinterleavingMedia"),
-                         media[Interleaving].box->currentText());
 }

@@ -91,14 +91,9 @@ private:
     bool isOn(Mode mode) const;
     bool isPrinted(Print print) const;
     void clearPages();
-    void loadMode(Mode mode, const char *key);
     void loadCover();
     void loadPageInsert();
     void loadInterleaving();
-    void addCoverSettings(Settings *settings) const;
-    void addPageInsertSettings(Settings *settings) const;
-    void addInterleavingSettings(Settings *settings) const;
-    int sidesCode() const;
     void setConflict(Mode mode, bool on);
 
     std::array<QLabel *, ModeCount> headings{};

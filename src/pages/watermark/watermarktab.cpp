@@ -6,73 +6,28 @@
 #include "model/optionstore.h"
 #include "pages/base/pagelayout.h"
 #include "pages/base/paneldialog.h"
-#include "storage/settingsfile.h"
+#include "pages/watermark/watermarkrows.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
 
 #include <QCheckBox>
 #include <QFrame>
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegExpValidator>
 #include <QSignalBlocker>
 
-#include <algorithm>
 #include <iterator>
 
 using PageWidgets::named;
 using PageWidgets::withColon;
+using namespace WatermarkRows;
 
 namespace {
 
-const QLatin1String switchKeyword("Wren");
-const QLatin1String textKeyword("Wtxt");
-const QLatin1String colorKeyword("Wclr");
-const QLatin1String repeatKeyword("Wflg");
-const QLatin1String superKeyword("BXSuperWatermark");
-const QLatin1String colorModelKeyword("ColorModel");
-
-const QLatin1String storeKey("CustomWatermarkStore");
-const QLatin1String selectedKey("CustomWatermarkSet");
-
-struct FeatureRow
-{
-    const char *keyword;
-    const char *labelName;
-    const char *boxName;
-    const char *label;
-    int usual; // position of what every text but a custom one starts with
-};
-
-// By Watermark::Feature.
-constexpr FeatureRow featureRows[] = {
-    {"Wfnt", "lblWFnt", "cmbBxWFnt", QT_TRANSLATE_NOOP("WatermarkTab", "Font"), 0},
-    {"Wsze", "lblWSze", "cmbBxWsze", QT_TRANSLATE_NOOP("WatermarkTab", "Size"), 8},
-    {"Wclr", "lblWClr", "cmbBxClr", QT_TRANSLATE_NOOP("WatermarkTab", "Color"), 3},
-    {"Wang", "lblWang", "cmbBxWang", QT_TRANSLATE_NOOP("WatermarkTab", "Angle"), 23},
-    {"Wtrans", "lblWtrans", "cmbBxWtrans", QT_TRANSLATE_NOOP("WatermarkTab", "Style"), 0},
-    {"Wtyp", "lblWtyp", "cmbBxWtyp", QT_TRANSLATE_NOOP("WatermarkTab", "Fill"), 0},
-};
-
-// What conflicts with printing in gray.
-constexpr const char *chromaticColors[] = {"Red", "Green", "Blue"};
-
-// What tells a super watermark from "none", as part of the saved value.
-constexpr const char *superKinds[] = {"UF", "SF"};
-
 constexpr int boxWidth = 185;   // in pixels
 constexpr int longestName = 32; // characters
-
-Watermark::Look usualLook()
-{
-    Watermark::Look look{};
-    for (int i = 0; i < Watermark::Repeat; ++i)
-        look[i] = featureRows[i].usual;
-    return look;
-}
 
 /// A switch whose text is only for assistive technology: a heading says it too, and on the picture
 /// it could not be read.
@@ -182,183 +137,11 @@ void WatermarkTab::createConnections()
     connect(deleteButton, &QPushButton::clicked, this, &WatermarkTab::deleteCustomWatermark);
 }
 
-// Layout
-
-void WatermarkTab::createLayout()
-{
-    createLookGrid();
-    auto *layout = new QHBoxLayout(this);
-    layout->addWidget(section);
-    layout->addWidget(PageLayout::verticalLine(this));
-    layout->addLayout(createTextGrid());
-}
-
-void WatermarkTab::createLookGrid()
-{
-    auto *grid = new QGridLayout(section);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->addWidget(heading, 0, 0, 1, 2);
-    grid->addWidget(watermarkButton, 1, 0, 2, 1, Qt::AlignLeft);
-    int row = 1;
-    const auto addList = [&](const PageWidgets::LabeledComboBox &list) {
-        grid->addWidget(list.label, row++, 1, Qt::AlignLeft | Qt::AlignBottom);
-        grid->addWidget(list.box, row++, 1, Qt::AlignLeft | Qt::AlignTop);
-    };
-    addList(text);
-    for (const PageWidgets::LabeledComboBox &list : features)
-        addList(list);
-    grid->addWidget(repeatBox, row++, 0, 1, 3); // the longest text of the page
-    grid->setColumnStretch(2, 1);
-    grid->setRowStretch(row, 1);
-}
-
-QGridLayout *WatermarkTab::createTextGrid()
-{
-    auto *buttonRow = new QHBoxLayout;
-    for (QPushButton *button : {newButton, saveButton, deleteButton})
-        buttonRow->addWidget(button);
-
-    auto *grid = new QGridLayout;
-    grid->addWidget(customLabel, 0, 0, 1, 3);
-    grid->addWidget(customEdit, 1, 0, 1, 3);
-    grid->addLayout(buttonRow, 2, 0, 1, 3);
-    grid->addWidget(PageLayout::horizontalLine(this), 3, 0, 1, 3);
-    grid->addWidget(superHeading, 4, 0, 1, 3);
-    grid->addWidget(superButton, 5, 0, Qt::AlignLeft);
-    grid->addWidget(superBox, 5, 1, Qt::AlignLeft);
-    grid->setColumnStretch(2, 1);
-    grid->setRowStretch(6, 1);
-    return grid;
-}
-
-// Loading
-
-void WatermarkTab::beforeLoad()
-{
-    const bOption *model = findOption(colorModelKeyword);
-    const bOption *color = findOption(colorKeyword);
-    if (!model || !color || !model->isValid() || !color->isValid())
-        return;
-    // The import has these rules too; a store that was filled otherwise gets them here.
-    for (const char *key : chromaticColors)
-        currentStore->addConstraint(colorModelKeyword, QStringLiteral("Gray"), colorKeyword,
-                                    QLatin1String(key));
-}
-
-void WatermarkTab::reload()
-{
-    setBoundSignalsBlocked(true);
-    const QSignalBlocker silentButton(superButton); // bound to no option
-    beforeLoad();
-    savedSettings.clear();
-    loadSwitches();
-    setTabName();
-    applyLabels();
-    loadOptions();
-    customEdit->clear();
-    customWatermarks.clear();
-    removeCustomItem();
-    addColorItem();
-    loadStore();
-    handleWatermarkSelection(text.box->currentText());
-    applyAllWidgets();
-    toggleWatermarkSection(watermarkButton->isChecked());
-    setBoundSignalsBlocked(false);
-}
-
-void WatermarkTab::loadSwitches()
-{
-    // On a printer that lacks it nobody could turn it off.
-    if (!findOption(switchKeyword))
-        watermarkButton->setChecked(false);
-    const bool present = findOption(superKeyword);
-    const QString saved = present ? readSetting(superKeyword) : QString();
-    superButton->setEnabled(present);
-    superButton->setChecked(
-        std::any_of(std::begin(superKinds), std::end(superKinds),
-                    [&](const char *kind) { return saved.contains(QLatin1String(kind)); }));
-}
-
-void WatermarkTab::removeCustomItem()
-{
-    // What the PPD offers for any text of one's own; here each of them has an entry.
-    const bOption *option = findOption(textKeyword);
-    const OptionChoice *custom = option ? option->findChoice(QStringLiteral("Custom")) : nullptr;
-    for (const QString &name : {tr("Custom"), custom ? custom->text() : QString()}) {
-        const int index = name.isEmpty() ? -1 : textIndex(name);
-        if (index >= 0)
-            text.box->removeItem(index);
-    }
-}
-
-void WatermarkTab::addColorItem()
-{
-    const bOption *color = findOption(colorKeyword);
-    ComboBoxEx *box = features[Watermark::Color].box;
-    if (findOption(switchKeyword) && (!color || color->choiceCount() == 1) &&
-        box->findText(tr("Black")) < 0)
-        box->addItem(tr("Black"));
-}
-
-void WatermarkTab::loadStore()
-{
-    const QStringList lines = readSettingValues(storeKey);
-    for (const QString &line : lines) {
-        const Watermark::Record record = Watermark::fromLine(line);
-        // An entry without a text would read as the separator.
-        if (!record.name.isEmpty())
-            customWatermarks.insert(record.name, record.look);
-    }
-    if (lines.isEmpty())
-        addDefaultWatermark();
-    rebuildTextList();
-    selectSavedText();
-    handleCustomWatermarkTextEdit();
-}
-
-void WatermarkTab::addDefaultWatermark()
-{
-    const bOption *option = findOption(textKeyword);
-    const QString name = option ? Watermark::customText(option->currentKey()) : QString();
-    if (name.isEmpty())
-        return;
-    const ComboBoxEx *fonts = features[Watermark::Font].box;
-    // All of them are looked up among the fonts; what isn't there is -1, and comes up with the
-    // printer's default.
-    const auto position = [fonts](const bOption *feature) {
-        return feature
-                   ? fonts->findData(feature->currentKey(), Qt::DisplayRole, Qt::MatchFixedString)
-                   : 0;
-    };
-    Watermark::Look look{};
-    for (int i = 0; i < Watermark::Repeat; ++i)
-        look[i] = position(findOption(QLatin1String(featureRows[i].keyword)));
-    look[Watermark::Repeat] = position(findOption(repeatKeyword));
-    customWatermarks.insert(name, look);
-}
-
-void WatermarkTab::selectSavedText()
-{
-    QString name = readSetting(selectedKey);
-    if (name.isEmpty() && readSetting(textKeyword).isEmpty()) {
-        if (const bOption *option = findOption(textKeyword))
-            name = Watermark::customText(option->currentKey());
-    }
-    const int index = name.isEmpty() ? -1 : textIndex(name);
-    if (index >= 0)
-        text.box->setCurrentIndex(index);
-}
-
 // The list of texts
 
 int WatermarkTab::textIndex(const QString &name) const
 {
     return text.box->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
-}
-
-bool WatermarkTab::isCustom(const QString &name) const
-{
-    return customWatermarks.contains(name) && !Watermark::isBuiltInText(name);
 }
 
 /// Silently; the selection stays if its text does.
@@ -375,18 +158,17 @@ void WatermarkTab::rebuildTextList()
             box->removeItem(box->count() - 1);
     }
     box->insertSeparator(box->count());
-    for (auto entry = customWatermarks.cbegin(); entry != customWatermarks.cend(); ++entry) {
-        if (!Watermark::isBuiltInText(entry.key()))
-            box->addItem(entry.key(), entry.key());
-    }
+    const QStringList names = customWatermarks.names();
+    for (const QString &name : names)
+        box->addItem(name, name);
     box->setCurrentIndex(textIndex(selected));
 }
 
 void WatermarkTab::handleWatermarkSelection(const QString &name)
 {
     const QString selected = text.box->currentText();
-    customEdit->setText(isCustom(selected) ? name : QString());
-    showLook(customWatermarks.value(selected, usualLook()));
+    customEdit->setText(customWatermarks.isCustom(selected) ? name : QString());
+    showLook(customWatermarks.look(selected, usualLook()));
     handleCustomWatermarkTextEdit();
     applySection();
     if (!text.box->signalsBlocked()) // the page is not being loaded
@@ -558,13 +340,10 @@ QHash<QString, QString> WatermarkTab::collectSettings()
 Settings WatermarkTab::extraSettings()
 {
     const QString selected = text.box->currentText();
-    const bool custom = isCustom(selected);
+    const bool custom = customWatermarks.isCustom(selected);
     if (custom && findOption(textKeyword))
         customWatermarks.insert(selected, shownLook());
     Settings settings;
-    for (auto entry = customWatermarks.cbegin(); entry != customWatermarks.cend(); ++entry)
-        settings.insert(storeKey, Watermark::toLine({entry.key(), entry.value()}));
-    if (custom)
-        settings.insert(selectedKey, selected);
+    customWatermarks.save(&settings, custom ? selected : QString());
     return settings;
 }

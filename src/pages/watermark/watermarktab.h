@@ -2,9 +2,7 @@
 
 #include "pages/base/pagewidgets.h"
 #include "pages/base/tab.h"
-#include "pages/watermark/watermarkrecords.h"
-
-#include <QMap>
+#include "pages/watermark/customwatermarks.h"
 
 #include <array>
 
@@ -61,7 +59,6 @@ private:
 
     void rebuildTextList();
     int textIndex(const QString &text) const;
-    bool isCustom(const QString &text) const;
 
     Watermark::Look shownLook() const;
     void showLook(const Watermark::Look &look);
@@ -85,5 +82,5 @@ private:
     BixCheckBoxButton *superButton = nullptr;
     ComboBoxEx *superBox = nullptr;
 
-    QMap<QString, Watermark::Look> customWatermarks; ///< by name, in the order of the list
+    CustomWatermarks customWatermarks;
 };

@@ -1,0 +1,83 @@
+// Where the widgets of the page "Publishing" stand.
+
+#include "pages/base/pagelayout.h"
+#include "pages/publishing/publishingtab.h"
+#include "widgets/bixcheckboxbutton.h"
+#include "widgets/comboboxex.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include <iterator>
+
+void PublishingTab::createLayout()
+{
+    setStyleSheet(QStringLiteral(
+        "ComboBoxEx{ margin-bottom: 0px }BixButtonGroup{ margin-bottom: 0px }QCheckBox{ "
+        "margin-bottom: 0px }BixCheckBoxButton{ margin-bottom: 0px; }"));
+    auto *layout = new QHBoxLayout(this);
+    layout->addLayout(createCoverGrid());
+    layout->addWidget(PageLayout::verticalLine(this));
+    layout->addLayout(createInsertGrid());
+}
+
+QGridLayout *PublishingTab::createCoverGrid()
+{
+    for (const Caption caption : {CoverFront, CoverBack})
+        captions[caption]->setStyleSheet(QStringLiteral("margin-left: 20px"));
+    // On the back the inside comes first, as one turns the pages.
+    QWidget *const rows[] = {
+        sides[Front],
+        sides[FrontAndBack],
+        captions[PrintOnto],
+        nullptr,
+        captions[CoverFront],
+        prints[CoverFrontOutside],
+        prints[CoverFrontInside],
+        captions[CoverBack],
+        prints[CoverBackInside],
+        prints[CoverBackOutside],
+        media[Cover].label,
+        media[Cover].box,
+    };
+    for (const Print print : coverPrints)
+        prints[print]->setStyleSheet(QStringLiteral("margin-bottom: 0px; margin-left: 40px"));
+    media[Cover].box->setStyleSheet(QStringLiteral("margin-bottom: 15px"));
+    headings[Interleaving]->setIndent(0); // a margin would add one
+    headings[Interleaving]->setStyleSheet(QStringLiteral("margin-top: 15px; margin-bottom: 0px"));
+
+    auto *grid = new QGridLayout;
+    grid->addWidget(headings[Cover], 0, 0, 1, 2);
+    grid->addWidget(buttons[Cover], 1, 0, 2, 1);
+    for (int i = 0; i < int(std::size(rows)); ++i) {
+        if (rows[i])
+            grid->addWidget(rows[i], i + 1, 1);
+    }
+    grid->addWidget(PageLayout::horizontalLine(this), 13, 0, 1, 3);
+    grid->addWidget(headings[Interleaving], 14, 0, 1, 2);
+    grid->addWidget(buttons[Interleaving], 15, 0, 2, 1);
+    grid->addWidget(prints[Backing], 15, 1);
+    grid->addWidget(media[Interleaving].label, 16, 1);
+    grid->addWidget(media[Interleaving].box, 17, 1);
+    grid->setColumnStretch(3, 1);
+    grid->setRowStretch(22, 1);
+    return grid;
+}
+
+QGridLayout *PublishingTab::createInsertGrid()
+{
+    QWidget *const rows[] = {prints[InsertFront], prints[InsertBack],      captions[InsertPages],
+                             pagesEdit,           media[PageInsert].label, media[PageInsert].box};
+    auto *grid = new QGridLayout;
+    grid->addWidget(headings[PageInsert], 0, 0, 1, 2);
+    grid->addWidget(buttons[PageInsert], 1, 0, 2, 1);
+    for (int i = 0; i < int(std::size(rows)); ++i)
+        grid->addWidget(rows[i], i + 1, 1);
+    grid->setColumnStretch(4, 1);
+    grid->setRowStretch(15, 1);
+    return grid;
+}
