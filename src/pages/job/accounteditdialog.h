@@ -5,7 +5,7 @@
 class QDialogButtonBox;
 class QLineEdit;
 
-/// One account of the list, new or known. The page "Job" decides whether it is accepted.
+/// One account of the list, new or known. The list decides whether it is accepted.
 class AccountEditDialog : public QDialog
 {
     Q_OBJECT

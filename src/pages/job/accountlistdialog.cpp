@@ -1,10 +1,14 @@
 #include "pages/job/accountlistdialog.h"
 
 #include "pages/base/pagewidgets.h"
+#include "pages/job/accounteditdialog.h"
+#include "pages/job/jobaccounting.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTableWidget>
 
@@ -20,18 +24,20 @@ constexpr int descriptionWidth = 142;
 
 AccountListDialog::AccountListDialog(QWidget *page)
     : QDialog(page)
+    , buttonBox(named(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this),
+                      "butBoxCustomAccountID"))
     , table(named(new QTableWidget(this), "tblCustomAccountID"))
     , newButton(named(new QPushButton(tr("New"), this), "butNewCustomAccountID"))
     , editButton(named(new QPushButton(tr("Edit"), this), "butEditCustomAccountID"))
     , deleteButton(named(new QPushButton(tr("Delete"), this), "butDeleteCustomAccountID"))
-    , buttonBox(named(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this),
-                      "butBoxCustomAccountID"))
+    , editDialog(new AccountEditDialog(this))
 {
     setWindowTitle(tr("Account ID"));
     setWindowModality(Qt::WindowModal);
     PageWidgets::simplifyTitleBar(this);
     createTable();
     createLayout();
+    createConnections();
     setFixedSize(400, 200);
 }
 
@@ -54,8 +60,6 @@ void AccountListDialog::createTable()
                                         "border: 1px solid white; }"));
     table->setSortingEnabled(true);
     table->sortByColumn(IdColumn, Qt::AscendingOrder);
-    // The keyboard makes a row the current one without selecting it.
-    connect(table, &QTableWidget::currentCellChanged, this, &AccountListDialog::updateButtons);
 }
 
 void AccountListDialog::createLayout()
@@ -69,18 +73,45 @@ void AccountListDialog::createLayout()
     grid->setRowStretch(4, 1);
 }
 
-void AccountListDialog::showAccounts(const Accounts &accounts)
+void AccountListDialog::createConnections()
+{
+    const auto check = &AccountListDialog::checkCustomIDButtonStates;
+    connect(table, &QTableWidget::itemSelectionChanged, this, check);
+    // The keyboard makes a row the current one without selecting it.
+    connect(table, &QTableWidget::currentCellChanged, this, check);
+    connect(table, &QTableWidget::cellDoubleClicked, this,
+            &AccountListDialog::customAccountIDDoubleClicked);
+    for (const QLineEdit *edit : {editDialog->idEdit, editDialog->descriptionEdit})
+        connect(edit, &QLineEdit::textChanged, this, check);
+    connect(newButton, &QPushButton::clicked, this,
+            &AccountListDialog::showNewCustomAccountIDDialog);
+    connect(editButton, &QPushButton::clicked, this, &AccountListDialog::editCustomAccountID);
+    connect(deleteButton, &QPushButton::clicked, this, &AccountListDialog::deleteCustomAccountID);
+    connect(editDialog->buttonBox, &QDialogButtonBox::accepted, this,
+            &AccountListDialog::createNewCustomAccountID);
+    connect(editDialog->buttonBox, &QDialogButtonBox::rejected, editDialog, &QWidget::hide);
+}
+
+// The list
+
+void AccountListDialog::showFor(const Accounts &accounts)
+{
+    tempAccounts = accounts;
+    show();
+}
+
+void AccountListDialog::loadCustomIDTable()
 {
     const int sortColumn = table->horizontalHeader()->sortIndicatorSection();
     const Qt::SortOrder sortOrder = table->horizontalHeader()->sortIndicatorOrder();
     table->setRowCount(0);
     // Rows would move away while they are filled.
     table->setSortingEnabled(false);
-    const QStringList ids = sortedAccountIds(accounts);
+    const QStringList ids = sortedAccountIds(tempAccounts);
     table->setRowCount(ids.size());
     for (int row = 0; row < ids.size(); ++row) {
         table->setItem(row, IdColumn, new QTableWidgetItem(ids[row]));
-        table->setItem(row, DescriptionColumn, new QTableWidgetItem(accounts.value(ids[row])));
+        table->setItem(row, DescriptionColumn, new QTableWidgetItem(tempAccounts.value(ids[row])));
     }
     table->setSortingEnabled(true);
     table->sortByColumn(sortColumn, sortOrder);
@@ -92,9 +123,68 @@ QString AccountListDialog::currentText(Column column) const
     return item ? item->text() : QString();
 }
 
-void AccountListDialog::updateButtons()
+void AccountListDialog::checkCustomIDButtonStates()
 {
     const bool canChange = table->currentRow() >= 0 && table->rowCount() > 0;
     editButton->setEnabled(canChange);
     deleteButton->setEnabled(canChange);
+}
+
+void AccountListDialog::deleteCustomAccountID()
+{
+    tempAccounts.remove(currentText(IdColumn));
+    loadCustomIDTable();
+    checkCustomIDButtonStates();
+    emit accountDeleted();
+}
+
+// One account
+
+void AccountListDialog::showNewCustomAccountIDDialog()
+{
+    editDialog->showNew();
+    isNewAccount = true;
+    editedAccountId.clear();
+}
+
+void AccountListDialog::customAccountIDDoubleClicked(int, int)
+{
+    editCustomAccountID();
+}
+
+void AccountListDialog::editCustomAccountID()
+{
+    editDialog->showKnown(currentText(IdColumn), currentText(DescriptionColumn));
+    loadCustomIDTable();
+    checkCustomIDButtonStates();
+    isNewAccount = false;
+    editedAccountId = editDialog->idEdit->text();
+}
+
+void AccountListDialog::createNewCustomAccountID()
+{
+    switch (enterAccount(&tempAccounts,
+                         {editDialog->idEdit->text(), editDialog->descriptionEdit->text(),
+                          isNewAccount, editedAccountId})) {
+    case AccountFault::NoId:
+        showError(JobAccounting::noIdText());
+        return;
+    case AccountFault::IdInUse:
+        showError(QCoreApplication::translate("JobTab", "This Account ID already exists."));
+        return;
+    case AccountFault::None:
+        break;
+    }
+    loadCustomIDTable();
+    checkCustomIDButtonStates();
+    editDialog->close();
+}
+
+void AccountListDialog::showError(const QString &text)
+{
+    QMessageBox box(editDialog);
+    box.setWindowFlags(parentWidget()->window()->windowFlags());
+    box.setWindowTitle(QCoreApplication::translate("JobTab", "Account ID Error"));
+    box.setText(text);
+    box.exec();
 }

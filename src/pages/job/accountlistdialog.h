@@ -9,8 +9,8 @@ class QDialogButtonBox;
 class QPushButton;
 class QTableWidget;
 
-/// The personal list of account IDs. It only shows what it is given; the page "Job" decides what
-/// the buttons do, and owns the list.
+/// The personal list of account IDs, with the dialog for one of them. It edits a copy: the list in
+/// force is the page's, which takes the copy over when accepted.
 class AccountListDialog : public QDialog
 {
     Q_OBJECT
@@ -18,19 +18,29 @@ class AccountListDialog : public QDialog
 public:
     explicit AccountListDialog(QWidget *page);
 
-    /// Fills the table anew, in the order that the user chose by its header.
-    void showAccounts(const Accounts &accounts);
-    /// The current row as it was shown; empty if there is none.
-    QString currentId() const { return currentText(IdColumn); }
-    QString currentDescription() const { return currentText(DescriptionColumn); }
-    /// Edit and Delete need a row.
-    void updateButtons();
+    /// Opens with a copy of the list.
+    void showFor(const Accounts &accounts);
+    /// The copy as it stands.
+    const Accounts &accounts() const { return tempAccounts; }
 
-    QTableWidget *table;
-    QPushButton *newButton;
-    QPushButton *editButton;
-    QPushButton *deleteButton;
-    QDialogButtonBox *buttonBox;
+    QDialogButtonBox *buttonBox; ///< its signals are the page's to connect
+
+public slots:
+    /// Fills the table anew, in the order that the user chose by its header.
+    void loadCustomIDTable();
+    /// Edit and Delete need a row.
+    void checkCustomIDButtonStates();
+
+signals:
+    void accountDeleted();
+
+private slots:
+    void showNewCustomAccountIDDialog();
+    void editCustomAccountID();
+    void customAccountIDDoubleClicked(int row, int column);
+    void deleteCustomAccountID();
+    /// OK of the dialog for one account, new or known.
+    void createNewCustomAccountID();
 
 private:
     enum Column
@@ -42,5 +52,17 @@ private:
 
     void createTable();
     void createLayout();
+    void createConnections();
     QString currentText(Column column) const;
+    void showError(const QString &text);
+
+    QTableWidget *table;
+    QPushButton *newButton;
+    QPushButton *editButton;
+    QPushButton *deleteButton;
+    AccountEditDialog *editDialog;
+
+    Accounts tempAccounts;
+    bool isNewAccount = true; ///< the edit dialog was opened with New
+    QString editedAccountId;  ///< what the edit dialog started with; empty for New
 };

@@ -34,7 +34,7 @@ constexpr int longestId = 8;
 } // namespace
 
 JobAccounting::JobAccounting(QWidget *page)
-    : label(named(new QLabel(page), "lblBqManagment"))
+    : JobGroup(named(new QLabel(page), "lblBqManagment"))
     , picture(new QLabel(page))
     , button(
           named(new BixCheckBoxButton(page, QString(), QIcon(QStringLiteral(":/icons/accounting"))),

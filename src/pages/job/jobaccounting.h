@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pages/job/accountlines.h"
-#include "storage/settingsfile.h"
+#include "pages/job/jobgroup.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -15,7 +15,7 @@ class QWidget;
 
 /// The job accounting of the page "Job": whom a job is charged to, by an ID that is typed in or
 /// picked from a personal list. The page owns the widgets and connects them.
-class JobAccounting
+class JobAccounting : public JobGroup
 {
     Q_DECLARE_TR_FUNCTIONS(JobTab)
 
@@ -29,8 +29,8 @@ public:
 
     explicit JobAccounting(QWidget *page);
 
-    /// Refills the mode silently; it falls back to the typed ID.
-    void setTexts();
+    /// The mode falls back to the typed ID.
+    void setTexts() override;
     static QString noIdText() { return tr("Account ID must be 1 to 8 numbers in length"); }
 
     Mode mode() const;
@@ -39,16 +39,13 @@ public:
     /// Puts the list into its box. The selection stays if it is still there.
     void refreshAccountCombo();
 
-    /// The message for what is wrong; empty if nothing is.
-    QString fault() const;
-    /// True for a fault that holds back OK.
-    bool holdsBack() const;
-
-    /// From the printer's settings file, the list included.
+    QString fault() const override;
+    bool holdsBack() const override;
+    void load() override { loadAccountSettings(); }
+    /// The list included.
     void loadAccountSettings();
-    void save(Settings *settings) const;
+    void save(Settings *settings) const override;
 
-    QLabel *label;
     QLabel *picture; ///< of the group, but in no layout
     BixCheckBoxButton *button;
     ComboBoxEx *modeBox;

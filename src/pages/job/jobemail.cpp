@@ -33,7 +33,7 @@ bOption *emailOption()
 } // namespace
 
 JobEmail::JobEmail(QWidget *page)
-    : label(named(new QLabel(page), "lblJobEmail"))
+    : JobGroup(named(new QLabel(page), "lblJobEmail"))
     , button(named(new BixCheckBoxButton(page, QString(), QIcon(QStringLiteral(":/icons/email"))),
                    "chkButJobEmail"))
     , edit(named(new QLineEdit(page), "lnEditJobEmail"))
@@ -63,7 +63,7 @@ QString JobEmail::setting() const
 
 // Faults
 
-EmailFault JobEmail::fault() const
+EmailFault JobEmail::check() const
 {
     return button->isChecked() ? checkEmail(edit->text()) : EmailFault::None;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pages/job/emailcheck.h"
-#include "storage/settingsfile.h"
+#include "pages/job/jobgroup.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -13,35 +13,34 @@ class QWidget;
 
 /// The e-mail notification of the page "Job": where a note about the finished job goes. The page
 /// owns the widgets and connects them.
-class JobEmail
+class JobEmail : public JobGroup
 {
     Q_DECLARE_TR_FUNCTIONS(JobTab)
 
 public:
     explicit JobEmail(QWidget *page);
 
-    void setTexts();
+    void setTexts() override;
     /// The address starts empty each time.
     void setOn(bool on);
     /// The address, or "off".
     QString setting() const;
 
     /// No fault while the button is off.
-    EmailFault fault() const;
+    EmailFault check() const;
+    QString fault() const override { return message(check()); }
     /// The message for a fault; empty for none.
     static QString message(EmailFault fault);
     /// Shows the message for a double quote below the field, or hides it.
     void showQuoteError(bool on);
-    /// True for a fault that holds back OK. A message is one while it stands on the label.
-    bool holdsBack() const;
+    /// A message holds back while it stands on the label.
+    bool holdsBack() const override;
 
     /// Greys what the printer can't do.
     void updateAvailability();
-    /// From the printer's settings file.
-    void load();
-    void save(Settings *settings) const;
+    void load() override;
+    void save(Settings *settings) const override;
 
-    QLabel *label;
     BixCheckBoxButton *button;
     QLineEdit *edit;
     QLabel *error;

@@ -29,7 +29,7 @@ constexpr int longestText = 64; // characters
 } // namespace
 
 JobLogin::JobLogin(QWidget *page)
-    : label(named(new QLabel(page), "lblUserLogin"))
+    : JobGroup(named(new QLabel(page), "lblUserLogin"))
     , button(named(new BixCheckBoxButton(page, QString(), QIcon(QStringLiteral(":/icons/user"))),
                    "chkButUserLogin"))
     , nameLabel(named(new QLabel(page), "lblLoginUserName"))
@@ -82,7 +82,7 @@ bool JobLogin::holdsBack() const
 
 // The settings file
 
-void JobLogin::loadLoginSettings()
+void JobLogin::load()
 {
     const bool available = currentOption(QStringLiteral("cUserLogin"));
     const QString name = available ? readSetting(nameKey) : QString();

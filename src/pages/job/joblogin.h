@@ -1,6 +1,6 @@
 #pragma once
 
-#include "storage/settingsfile.h"
+#include "pages/job/jobgroup.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -12,26 +12,21 @@ class QWidget;
 
 /// The user login of the page "Job": a name and password that go with the job. The page owns the
 /// widgets and connects them.
-class JobLogin
+class JobLogin : public JobGroup
 {
     Q_DECLARE_TR_FUNCTIONS(JobTab)
 
 public:
     explicit JobLogin(QWidget *page);
 
-    void setTexts();
+    void setTexts() override;
     void clear();
 
-    /// The message for what is wrong; empty if nothing is.
-    QString fault() const;
-    /// True for a fault that holds back OK.
-    bool holdsBack() const;
+    QString fault() const override;
+    bool holdsBack() const override;
+    void load() override;
+    void save(Settings *settings) const override;
 
-    /// From the printer's settings file.
-    void loadLoginSettings();
-    void save(Settings *settings) const;
-
-    QLabel *label;
     BixCheckBoxButton *button;
     QLabel *nameLabel;
     QLineEdit *nameEdit;

@@ -38,7 +38,7 @@ const bOption *findOption(const QString &keyword)
 } // namespace
 
 JobName::JobName(QWidget *page)
-    : label(named(new QLabel(page), "lblJobName"))
+    : JobGroup(named(new QLabel(page), "lblJobName"))
     , picture(named(new QLabel(page), "iconJobName"))
     , modeBox(named(new ComboBoxEx(page), "cmbBxJobName"))
     , edit(named(new QLineEdit(page), "lnEditJobName"))

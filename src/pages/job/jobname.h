@@ -1,6 +1,6 @@
 #pragma once
 
-#include "storage/settingsfile.h"
+#include "pages/job/jobgroup.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -12,7 +12,7 @@ class QWidget;
 
 /// The job name of the page "Job", and what becomes of an earlier job with the same name. The page
 /// owns the widgets and connects them.
-class JobName
+class JobName : public JobGroup
 {
     Q_DECLARE_TR_FUNCTIONS(JobTab)
 
@@ -26,25 +26,19 @@ public:
 
     explicit JobName(QWidget *page);
 
-    /// Refills both boxes silently; they fall back to their first entries.
-    void setTexts();
+    void setTexts() override;
     /// Frees the name's field for a custom name, or empties and greys it.
     void setMode(int mode);
     bool isCustom() const;
     bool replacesFile() const;
 
-    /// The message for what is wrong; empty if nothing is.
-    QString fault() const;
-    /// True for a fault that holds back OK.
-    bool holdsBack() const;
-
+    QString fault() const override;
+    bool holdsBack() const override;
     /// Greys what the printer can't do.
     void updateAvailability();
-    /// From the printer's settings file.
-    void load();
-    void save(Settings *settings) const;
+    void load() override;
+    void save(Settings *settings) const override;
 
-    QLabel *label;
     QLabel *picture;
     ComboBoxEx *modeBox;
     QLineEdit *edit;

@@ -44,7 +44,7 @@ const bOption *storageOption()
 } // namespace
 
 JobStorage::JobStorage(QWidget *page)
-    : label(named(new QLabel(page), "lblBXCollate1"))
+    : JobGroup(named(new QLabel(page), "lblBXCollate1"))
     , button(named(new BixCheckBoxButton(page, QString(), QIcon(QStringLiteral(":/icons/storage"))),
                    "chkButBXCollate1"))
     , box(named(new ComboBoxEx(page), "cmbBxBXCollate1"))

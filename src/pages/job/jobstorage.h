@@ -1,7 +1,7 @@
 #pragma once
 
+#include "pages/job/jobgroup.h"
 #include "pages/job/storagerules.h"
-#include "storage/settingsfile.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -17,14 +17,14 @@ class QWidget;
 ///
 /// The list shows the choices of the option "BXCollate1" and, if the printer can, two items that
 /// are no choices: private print and custom box. Those two are written under keys of their own.
-class JobStorage
+class JobStorage : public JobGroup
 {
     Q_DECLARE_TR_FUNCTIONS(JobTab)
 
 public:
     explicit JobStorage(QWidget *page);
 
-    void setTexts();
+    void setTexts() override;
 
     /// What the current item stands for, by its text.
     StorageKind kind(Qt::CaseSensitivity sensitivity = Qt::CaseSensitive) const;
@@ -45,17 +45,13 @@ public:
     /// Takes out of the access code what is no digit.
     void stripAccessCode();
 
-    /// The message for what is wrong; empty if nothing is.
-    QString fault() const;
-    /// True for a fault that holds back OK. A message is one while it stands on the label.
-    bool holdsBack() const;
-
-    /// From the printer's settings file.
-    void load();
+    QString fault() const override;
+    /// A message holds back while it stands on the label.
+    bool holdsBack() const override;
+    void load() override;
     /// Pads the box number, on the page too.
-    void save(Settings *settings) const;
+    void save(Settings *settings) const override;
 
-    QLabel *label;
     BixCheckBoxButton *button;
     ComboBoxEx *box;
     QLabel *codeLabel;

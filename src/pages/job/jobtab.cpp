@@ -4,10 +4,7 @@
 #include "model/keys.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
-#include "pages/base/pagelayout.h"
 #include "pages/base/pagewidgets.h"
-#include "pages/base/paneldialog.h"
-#include "pages/job/accounteditdialog.h"
 #include "pages/job/accountlistdialog.h"
 #include "pages/job/jobaccounting.h"
 #include "pages/job/jobemail.h"
@@ -18,21 +15,16 @@
 #include "widgets/comboboxex.h"
 #include "widgets/constraintmark.h"
 
-#include <QDialogButtonBox>
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QSignalBlocker>
-#include <QTableWidget>
+
+#include <algorithm>
 
 namespace {
 
 // In pixels.
 constexpr int pictureSize = 50;
-constexpr int inputWidth = 180;
 constexpr int gap = 6;
 
 } // namespace
@@ -63,13 +55,17 @@ void JobTab::createWidgets()
     name = std::make_unique<JobName>(this);
     email = std::make_unique<JobEmail>(this);
     accountList = new AccountListDialog(this);
-    accountEdit = new AccountEditDialog(accountList);
     setPictures();
     for (BixCheckBoxButton *button :
          {storage->button, accounting->button, login->button, email->button})
         button->setContentsMargins(0, 0, gap, 0);
     storage->showInputs(StorageKind::Other);
     registerWidgets();
+}
+
+std::array<JobGroup *, 5> JobTab::groups() const
+{
+    return {email.get(), name.get(), storage.get(), accounting.get(), login.get()};
 }
 
 void JobTab::setPictures()
@@ -102,182 +98,10 @@ void JobTab::registerWidgets()
     checkBoxButtons = {storage->button, accounting->button};
 }
 
-// Connections
-
-void JobTab::createConnections()
-{
-    const auto toggled = qOverload<bool>(&BixCheckBoxButton::toggled);
-    const auto changed = qOverload<int>(&QComboBox::currentIndexChanged);
-    const auto toDialog = &PanelDialog::setConstraints;
-
-    connect(name->modeBox, changed, dialog, toDialog);
-    connect(name->modeBox, changed, this, &JobTab::enableCustomJobNameSettings);
-    connect(name->modeBox, changed, this, &JobTab::verifyjobName);
-
-    connect(accounting->button, toggled, dialog, toDialog, Qt::UniqueConnection);
-    connect(accounting->button, toggled, dialog, toDialog);
-    connect(accounting->button, toggled, this, &JobTab::verifySpecificJobAccountID);
-    connect(accounting->idEdit, &QLineEdit::textEdited, dialog, toDialog, Qt::UniqueConnection);
-    connect(accounting->idEdit, &QLineEdit::textEdited, this, &JobTab::verifySpecificJobAccountID);
-    connect(accounting->modeBox, changed, this, &JobTab::selectJobAccount, Qt::UniqueConnection);
-    connect(accounting->modeBox, changed, dialog, toDialog, Qt::UniqueConnection);
-    connect(accounting->modeBox, changed, this, &JobTab::verifySpecificJobAccountID,
-            Qt::UniqueConnection);
-
-    connect(login->button, toggled, dialog, toDialog);
-    connect(login->button, toggled, this, &JobTab::toggleUserLogin);
-    for (const QLineEdit *edit : {login->nameEdit, login->passwordEdit}) {
-        connect(edit, &QLineEdit::textChanged, dialog, toDialog);
-        connect(edit, &QLineEdit::textChanged, this, &JobTab::verifyUserLogin);
-    }
-
-    connect(storage->button, toggled, this, &JobTab::toggleJobSettingsCheckBox,
-            Qt::UniqueConnection);
-    connect(storage->button, toggled, dialog, toDialog, Qt::UniqueConnection);
-    for (const QLineEdit *edit : {storage->codeEdit, storage->numberEdit, storage->passwordEdit})
-        connect(edit, &QLineEdit::textEdited, dialog, toDialog, Qt::UniqueConnection);
-
-    connect(name->edit, &QLineEdit::textEdited, dialog, toDialog, Qt::UniqueConnection);
-    connect(name->edit, &QLineEdit::textEdited, this, &JobTab::verifyjobName);
-
-    // The inputs have to be right before the constraint pass looks at them. Qt marks this signal
-    // deprecated, so it is named by text.
-    disconnect(storage->box, changed, dialog, toDialog);
-    connect(storage->box, SIGNAL(currentIndexChanged(QString)), this,
-            SLOT(toggleJobSettingsInput(QString)));
-    connect(storage->box, SIGNAL(currentIndexChanged(QString)), dialog, SLOT(setConstraints()));
-
-    connect(email->edit, &QLineEdit::textChanged, dialog, toDialog, Qt::UniqueConnection);
-    connect(email->edit, &QLineEdit::textChanged, this, &JobTab::verifyJobEmail);
-    connect(email->button, toggled, this, &JobTab::jobEMailNotificationToggle);
-    connect(email->button, toggled, dialog, toDialog, Qt::UniqueConnection);
-    connect(email->button, toggled, this, &JobTab::verifyJobEmail);
-}
-
-void JobTab::connectAccountList()
-{
-    const QPushButton *open = accounting->listButton;
-    connect(open, &QPushButton::clicked, this, &JobTab::showCustomAccountIDDialog);
-    connect(open, &QPushButton::clicked, this, &JobTab::loadCustomIDTable);
-    connect(open, &QPushButton::clicked, this, &JobTab::checkCustomIDButtonStates);
-
-    const QTableWidget *table = accountList->table;
-    connect(table, &QTableWidget::itemSelectionChanged, this, &JobTab::checkCustomIDButtonStates);
-    connect(table, &QTableWidget::cellDoubleClicked, this, &JobTab::customAccountIDDoubleClicked);
-    for (const QLineEdit *edit : {accountEdit->idEdit, accountEdit->descriptionEdit})
-        connect(edit, &QLineEdit::textChanged, this, &JobTab::checkCustomIDButtonStates);
-    connect(accountList->newButton, &QPushButton::clicked, this,
-            &JobTab::showNewCustomAccountIDDialog);
-    connect(accountList->editButton, &QPushButton::clicked, this, &JobTab::editCustomAccountID);
-    connect(accountList->deleteButton, &QPushButton::clicked, this, &JobTab::deleteCustomAccountID);
-    connect(accountEdit->buttonBox, &QDialogButtonBox::accepted, this,
-            &JobTab::createNewCustomAccountID);
-    connect(accountEdit->buttonBox, &QDialogButtonBox::rejected, accountEdit, &QWidget::hide);
-
-    const QDialogButtonBox *buttons = accountList->buttonBox;
-    connect(buttons, &QDialogButtonBox::accepted, this, &JobTab::saveTempAccountIDs);
-    connect(buttons, &QDialogButtonBox::accepted, dialog, &PanelDialog::setConstraints,
-            Qt::UniqueConnection);
-    connect(buttons, &QDialogButtonBox::accepted, this, &JobTab::verifySpecificJobAccountID);
-    connect(buttons, &QDialogButtonBox::rejected, accountList, &QWidget::hide);
-}
-
-// Layout
-
-void JobTab::createLayout()
-{
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0); // the page has its own
-    layout->setSpacing(gap / 2);
-    layout->addLayout(createStorageGrid());
-    layout->addWidget(PageLayout::verticalLine(this));
-    layout->addLayout(createNameGrid());
-    PageLayout::setTabOrder({storage->button, storage->box, storage->codeEdit, storage->numberEdit,
-                             storage->passwordEdit, accounting->button, accounting->modeBox,
-                             accounting->idEdit, accounting->idBox, accounting->listButton,
-                             login->button, login->nameEdit, login->passwordEdit, name->modeBox,
-                             name->edit, name->overwriteBox, email->button, email->edit});
-}
-
-void JobTab::addLine(QGridLayout *grid, int row, int columns)
-{
-    grid->addWidget(PageLayout::horizontalLine(this), row, 0, 1, columns);
-}
-
-QGridLayout *JobTab::createGrid()
-{
-    auto *grid = new QGridLayout;
-    // Every column that the lines cross would bring its spacing along, and the page has no room to
-    // give away.
-    grid->setHorizontalSpacing(0);
-    grid->setColumnMinimumWidth(1, inputWidth);
-    return grid;
-}
-
-QGridLayout *JobTab::createStorageGrid()
-{
-    QGridLayout *grid = createGrid();
-    grid->addWidget(storage->label, 0, 0, 1, 2);
-    grid->addWidget(storage->button, 1, 0, 2, 1);
-    grid->addWidget(storage->box, 1, 1, 1, 4);
-    // One or the other of these shows.
-    grid->addWidget(storage->numberLabel, 2, 1, 1, 2, Qt::AlignBottom);
-    grid->addWidget(storage->codeLabel, 2, 1, 1, 2, Qt::AlignBottom);
-    grid->addWidget(storage->numberEdit, 3, 1, 1, 2);
-    grid->addWidget(storage->codeEdit, 3, 1, 1, 2);
-    grid->addWidget(storage->passwordLabel, 4, 1, 1, 2);
-    grid->addWidget(storage->passwordEdit, 5, 1, 1, 2);
-    grid->addWidget(storage->error, 5, 1, 2, 5);
-    addLine(grid, 8, 6);
-
-    grid->addWidget(accounting->label, 9, 0, 1, 4);
-    grid->addWidget(accounting->button, 10, 0, 2, 1);
-    grid->addWidget(accounting->modeBox, 10, 1);
-    grid->addWidget(accounting->idEdit, 11, 1);
-    grid->addWidget(accounting->idBox, 11, 1);
-    grid->addWidget(accounting->listButton, 12, 1);
-    grid->addWidget(accounting->error, 13, 1);
-    addLine(grid, 14, 6);
-
-    grid->addWidget(login->label, 15, 0, 1, 2, Qt::AlignVCenter);
-    grid->addWidget(login->button, 16, 0, 2, 1);
-    grid->addWidget(login->nameLabel, 16, 1, 1, 1, Qt::AlignBottom);
-    grid->addWidget(login->nameEdit, 17, 1);
-    grid->addWidget(login->passwordLabel, 18, 1);
-    grid->addWidget(login->passwordEdit, 19, 1);
-    grid->setColumnStretch(5, 1);
-    grid->setRowStretch(20, 1);
-    return grid;
-}
-
-QGridLayout *JobTab::createNameGrid()
-{
-    QGridLayout *grid = createGrid();
-    grid->addWidget(name->label, 0, 0, 1, 2);
-    grid->addWidget(name->picture, 1, 0, 2, 1, Qt::AlignVCenter);
-    grid->addWidget(name->modeBox, 1, 1);
-    grid->addWidget(name->edit, 2, 1);
-    grid->addWidget(name->overwriteLabel, 3, 1, 1, 5);
-    // Below the picture there is room for texts that are too long for the second column.
-    grid->addWidget(name->overwriteBox, 4, 0, 2, 2, Qt::AlignRight);
-    addLine(grid, 6, 7);
-
-    grid->addWidget(email->label, 7, 0, 2, 5);
-    grid->addWidget(email->button, 9, 0, 2, 1);
-    grid->addWidget(email->edit, 9, 1);
-    grid->addWidget(email->error, 10, 1);
-    grid->setColumnStretch(13, 1);
-    grid->setRowStretch(14, 1);
-    return grid;
-}
-
 void JobTab::retranslate()
 {
-    storage->setTexts();
-    accounting->setTexts();
-    login->setTexts();
-    name->setTexts();
-    email->setTexts();
+    for (JobGroup *group : groups())
+        group->setTexts();
 }
 
 // Loading
@@ -304,8 +128,8 @@ void JobTab::reload()
         accounting->button->setEnabled(canAccount);
 
         loadJobSettings();
-        accounting->loadAccountSettings();
-        login->loadLoginSettings();
+        accounting->load();
+        login->load();
         applyAllWidgets();
         verifyJobEmail();
     }
@@ -361,7 +185,7 @@ void JobTab::verifyJobStoragePasswordLineEdit()
 
 void JobTab::verifyJobStorage()
 {
-    mark(storage->label, storage->fault());
+    verify(*storage);
 }
 
 // Job accounting and its list
@@ -375,87 +199,24 @@ void JobTab::verifySpecificJobAccountID()
 {
     if (!accounting->button->isChecked())
         accounting->idEdit->clear();
-    mark(accounting->label, accounting->fault());
+    verify(*accounting);
 }
 
 void JobTab::showCustomAccountIDDialog()
 {
-    tempAccounts = accounting->accounts;
-    accountList->show();
+    accountList->showFor(accounting->accounts);
 }
 
-void JobTab::loadCustomIDTable()
+void JobTab::refreshAccountCombo()
 {
-    accountList->showAccounts(tempAccounts);
-}
-
-void JobTab::checkCustomIDButtonStates()
-{
-    accountList->updateButtons();
-}
-
-void JobTab::showNewCustomAccountIDDialog()
-{
-    accountEdit->showNew();
-    isNewAccount = true;
-    editedAccountId.clear();
-}
-
-void JobTab::customAccountIDDoubleClicked(int, int)
-{
-    editCustomAccountID();
-}
-
-void JobTab::editCustomAccountID()
-{
-    accountEdit->showKnown(accountList->currentId(), accountList->currentDescription());
-    loadCustomIDTable();
-    checkCustomIDButtonStates();
-    isNewAccount = false;
-    editedAccountId = accountEdit->idEdit->text();
-}
-
-void JobTab::createNewCustomAccountID()
-{
-    switch (enterAccount(&tempAccounts,
-                         {accountEdit->idEdit->text(), accountEdit->descriptionEdit->text(),
-                          isNewAccount, editedAccountId})) {
-    case AccountFault::NoId:
-        showAccountError(JobAccounting::noIdText());
-        return;
-    case AccountFault::IdInUse:
-        showAccountError(tr("This Account ID already exists."));
-        return;
-    case AccountFault::None:
-        break;
-    }
-    loadCustomIDTable();
-    checkCustomIDButtonStates();
-    accountEdit->close();
-}
-
-void JobTab::showAccountError(const QString &text)
-{
-    QMessageBox box(accountEdit);
-    box.setWindowFlags(dialog->windowFlags());
-    box.setWindowTitle(tr("Account ID Error"));
-    box.setText(text);
-    box.exec();
-}
-
-void JobTab::deleteCustomAccountID()
-{
-    tempAccounts.remove(accountList->currentId());
-    loadCustomIDTable();
-    checkCustomIDButtonStates();
     accounting->refreshAccountCombo();
 }
 
 void JobTab::saveTempAccountIDs()
 {
-    accounting->accounts = tempAccounts;
+    accounting->accounts = accountList->accounts();
     accountList->hide();
-    accounting->refreshAccountCombo();
+    refreshAccountCombo();
 }
 
 // User login
@@ -468,7 +229,7 @@ void JobTab::toggleUserLogin()
 
 void JobTab::verifyUserLogin()
 {
-    mark(login->label, login->fault());
+    verify(*login);
 }
 
 // Job name
@@ -480,7 +241,7 @@ void JobTab::enableCustomJobNameSettings(int choice)
 
 void JobTab::verifyjobName()
 {
-    mark(name->label, name->fault());
+    verify(*name);
 }
 
 // E-mail notification
@@ -492,17 +253,18 @@ void JobTab::jobEMailNotificationToggle(bool checked)
 
 void JobTab::verifyJobEmail()
 {
-    const EmailFault fault = email->fault();
-    email->showQuoteError(fault == EmailFault::DoubleQuote);
-    if (fault != EmailFault::DoubleQuote)
-        mark(email->label, JobEmail::message(fault));
+    const bool isQuote = email->check() == EmailFault::DoubleQuote;
+    email->showQuoteError(isQuote);
+    if (!isQuote)
+        verify(*email);
 }
 
 // Marks
 
-void JobTab::mark(QLabel *label, const QString &message)
+void JobTab::verify(const JobGroup &group)
 {
-    setWidgetMark(label, message, !message.isEmpty());
+    const QString message = group.fault();
+    setWidgetMark(group.label, message, !message.isEmpty());
 }
 
 void JobTab::markConstraintWidgets()
@@ -526,9 +288,9 @@ bool JobTab::hasMarks()
 {
     if (!isAvailable())
         return false;
-    if (storage->holdsBack() || email->holdsBack() || login->holdsBack() || name->holdsBack() ||
-        accounting->holdsBack())
-        marked = true;
+    const auto all = groups();
+    marked = marked || std::any_of(all.begin(), all.end(),
+                                   [](const JobGroup *group) { return group->holdsBack(); });
     return marked;
 }
 
@@ -560,10 +322,7 @@ QHash<QString, QString> JobTab::collectSettings()
 Settings JobTab::extraSettings()
 {
     Settings settings;
-    email->save(&settings);
-    name->save(&settings);
-    storage->save(&settings);
-    accounting->save(&settings);
-    login->save(&settings);
+    for (const JobGroup *group : groups())
+        group->save(&settings);
     return settings;
 }

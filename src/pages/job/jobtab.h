@@ -1,14 +1,14 @@
 #pragma once
 
 #include "pages/base/tab.h"
-#include "pages/job/accountlines.h"
 
+#include <array>
 #include <memory>
 
-class AccountEditDialog;
 class AccountListDialog;
 class JobAccounting;
 class JobEmail;
+class JobGroup;
 class JobLogin;
 class JobName;
 class JobStorage;
@@ -50,16 +50,10 @@ private slots:
     void toggleJobSettingsInput(const QString &text);
     void toggleJobSettingsCheckBox(bool toggled);
     void toggleUserLogin();
-    void loadCustomIDTable();
-    void customAccountIDDoubleClicked(int row, int column);
-    void checkCustomIDButtonStates();
-    /// OK of the dialog for one account, new or known.
-    void createNewCustomAccountID();
-    void deleteCustomAccountID();
-    void editCustomAccountID();
     void jobEMailNotificationToggle(bool checked);
-    void showNewCustomAccountIDDialog();
     void showCustomAccountIDDialog();
+    void refreshAccountCombo();
+    /// Takes over what the list dialog has made of the list.
     void saveTempAccountIDs();
     void selectJobAccount();
     void verifyJobStoragePasswordLineEdit();
@@ -76,9 +70,9 @@ private:
     void setPictures();
     void loadJobSettings();
     void hideErrors();
-    /// Marks a group's label with a message; an empty one takes the mark away.
-    void mark(QLabel *label, const QString &message);
-    void showAccountError(const QString &text);
+    /// Marks a group's label with what is wrong, or takes the mark away.
+    void verify(const JobGroup &group);
+    std::array<JobGroup *, 5> groups() const;
 
     std::unique_ptr<JobStorage> storage;
     std::unique_ptr<JobAccounting> accounting;
@@ -87,8 +81,4 @@ private:
     std::unique_ptr<JobEmail> email;
 
     AccountListDialog *accountList;
-    AccountEditDialog *accountEdit;
-    Accounts tempAccounts;    ///< what the list dialog edits, until its OK
-    bool isNewAccount = true; ///< the edit dialog was opened with New
-    QString editedAccountId;  ///< what the edit dialog started with; empty for New
 };
