@@ -6,6 +6,7 @@
 #   printserver.sh add DIR NAME PPDFILE [URI]     add one queue (URI: file:///dev/null)
 #   printserver.sh remove DIR NAME                remove one queue
 #   printserver.sh stop DIR                       stop it and wait until it is gone
+#   printserver.sh serve DIR COMMAND...           run a command on a print server without queues
 #   printserver.sh with DIR COMMAND...            run a command on the five sample queues
 #
 # Everything of it lies below DIR, with the socket at DIR/cups.sock. In the sandbox, where
@@ -183,6 +184,11 @@ run_with_server()
 {
     start >/dev/null
     trap stop EXIT
+    "$@"
+}
+
+run_with_queues()
+{
     add_sample_queues
     fit Office_C3 "${office_hardware[@]}"
     "$@"
@@ -190,7 +196,7 @@ run_with_server()
 
 usage()
 {
-    sed -n '4,9s/^# *//p' "${BASH_SOURCE[0]}" >&2
+    sed -n '4,10s/^# *//p' "${BASH_SOURCE[0]}" >&2
     exit 2
 }
 
@@ -210,7 +216,8 @@ case $command:$# in
     add:2 | add:3) add "$@" ;;
     remove:1) remove "$1" ;;
     stop:0) stop ;;
-    with:0) usage ;;
-    with:*) run_with_server "$@" ;;
+    serve:0 | with:0) usage ;;
+    serve:*) run_with_server "$@" ;;
+    with:*) run_with_server run_with_queues "$@" ;;
     *) usage ;;
 esac

@@ -1,45 +1,28 @@
 #include "driverserver.h"
 
-#include "outcome.h"
 #include "useractions.h"
-#include "widgetstate.h"
+#include "widgetfinder.h"
+#include "windowstate.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCursor>
 #include <QGuiApplication>
-#include <QJsonDocument>
 #include <QLocalSocket>
+#include <QProcess>
 #include <QScreen>
 #include <QTimer>
+#include <QWidget>
 
 namespace {
 
-struct Command
+// An X server takes a while to answer what the panel has just asked of it.
+int roundMs()
 {
-    const char *name;
-    Outcome (*run)(const QJsonObject &request);
-};
-
-constexpr Command commands[] = {
-    {"click", prepareClick},   {"choose", prepareChoose},       {"type", prepareType},
-    {"key", prepareKey},       {"activate", prepareActivate},   {"close", prepareClose},
-    {"state", queryState},     {"table", queryTable},           {"tabs", queryTabs},
-    {"windows", queryWindows}, {"messageBox", queryMessageBox}, {"grab", grabToFile},
-};
-
-Outcome run(const QJsonObject &request)
-{
-    const QString name = request.value("command").toString();
-    for (const Command &command : commands)
-        if (name == QLatin1String(command.name))
-            return command.run(request);
-    return Outcome::failure(QString("unknown command \"%1\"").arg(name));
+    return QGuiApplication::platformName() == "xcb" ? 10 : 1;
 }
 
-// Long enough for the X server to answer what the panel has just asked of it.
-constexpr int roundMs = 10;
 constexpr int quietRoundsWanted = 2;
-constexpr int maxRounds = 300;
+constexpr int maxRounds = 3000;
 
 } // namespace
 
@@ -54,63 +37,59 @@ DriverServer::DriverServer(const QString &socketPath)
 void DriverServer::acceptClient()
 {
     m_client = m_server.nextPendingConnection();
-    connect(m_client, &QLocalSocket::readyRead, this, &DriverServer::readRequests);
+    connect(m_client, &QLocalSocket::readyRead, this, &DriverServer::readLines);
     connect(m_client, &QLocalSocket::disconnected, m_client, &QObject::deleteLater);
     // A window that opens under the pointer would be told of it and could highlight what it hits.
     QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
 }
 
-void DriverServer::readRequests()
+void DriverServer::readLines()
 {
     while (m_client && m_client->canReadLine()) {
-        const QByteArray line = m_client->readLine();
+        const QString line = QString::fromUtf8(m_client->readLine()).trimmed();
         // Carried out only after this slot has returned: a socket tells of new data in a nested
         // event loop only when the slot of the outer one is through.
-        QTimer::singleShot(0, this, [this, line] {
-            QJsonParseError error;
-            const QJsonDocument document = QJsonDocument::fromJson(line, &error);
-            if (document.isObject())
-                handle(document.object());
-            else
-                send(Outcome::failure(error.errorString()).reply);
-        });
+        QTimer::singleShot(0, this, [this, line] { handle(line); });
     }
 }
 
-void DriverServer::handle(const QJsonObject &request)
+void DriverServer::handle(const QString &line)
 {
-    const QString id = "id";
-    if (request.value("command") == "sync") {
-        answerWhenIdle({{id, request.value(id)}}, 0, maxRounds);
-        return;
+    const QStringList words = QProcess::splitCommand(line);
+    if (words.value(0) == "state") {
+        sendStateWhenIdle(0, maxRounds);
+    } else if (words.value(0) == "ask") {
+        const QWidget *widget = findWidget(words.value(1));
+        if (widget)
+            send("ok", {propertyText(widget, words.value(2))});
+        else
+            send("error: there is no widget " + words.value(1));
+    } else {
+        const Step step = prepareStep(words);
+        send(step.error.isEmpty() ? "ok" : "error: " + step.error);
+        if (step.action)
+            step.action();
     }
-    Outcome outcome = run(request);
-    outcome.reply.insert(id, request.value(id));
-    send(outcome.reply);
-    if (outcome.action)
-        outcome.action();
 }
 
-void DriverServer::answerWhenIdle(const QJsonObject &reply, int quietRounds, int roundsLeft)
+void DriverServer::sendStateWhenIdle(int quietRounds, int roundsLeft)
 {
     if (quietRounds == quietRoundsWanted) {
-        send(reply);
+        send("ok", windowState());
     } else if (roundsLeft == 0) {
-        QJsonObject failed = reply;
-        failed.insert("error", "the event loop never came to rest");
-        send(failed);
+        send("error: the event loop never came to rest");
     } else {
-        QTimer::singleShot(roundMs, this, [=] {
+        QTimer::singleShot(roundMs(), this, [=] {
             const bool busy = QAbstractEventDispatcher::instance()->hasPendingEvents();
-            answerWhenIdle(reply, busy ? 0 : quietRounds + 1, roundsLeft - 1);
+            sendStateWhenIdle(busy ? 0 : quietRounds + 1, roundsLeft - 1);
         });
     }
 }
 
-void DriverServer::send(const QJsonObject &reply)
+void DriverServer::send(const QString &outcome, const QStringList &lines)
 {
     if (!m_client)
         return;
-    m_client->write(QJsonDocument(reply).toJson(QJsonDocument::Compact) + '\n');
+    m_client->write((QStringList(outcome) + lines + QStringList(".\n")).join('\n').toUtf8());
     m_client->flush();
 }

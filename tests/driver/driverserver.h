@@ -6,25 +6,14 @@
 #include <QObject>
 #include <QPointer>
 
-class QJsonObject;
 class QLocalSocket;
 
-/// Answers requests on a local socket: one JSON object per line each way, in order of arrival.
+/// Carries out lines of a script that come in on a local socket, in order of arrival, also in the
+/// nested event loop of a modal dialog. One client at a time.
 ///
-/// A request is {"id": n, "command": c, ...}, its reply {"id": n, ...} with an "error" text if it
-/// failed. Requests run from the event loop, also from the nested one of a modal dialog. One
-/// client at a time.
-///
-/// Commands, with their arguments beyond a target (see findWidget()):
-/// - click:  "tab" (title or index), "row" (index or text) and "column", "button" (name or index in
-///           a button group), "double"
-/// - choose: "item" (text or index) of a combo box
-/// - type:   "text";  key: "keys" in the notation of QKeySequence, such as "Ctrl+A"
-/// - activate, close: the target's window, or the front window
-/// - state, table, tabs, windows, messageBox: see widgetstate.h
-/// - grab:   "path" of a PNG file; "screen": true for all of the screen; without a target the
-///           front window
-/// - sync:   answered when all events have been handled, whatever loop is running then
+/// A line is a step of useractions.h, "ask WIDGET PROPERTY", or "state". An answer is "ok" or
+/// "error: REASON", then lines of its own, then a line with a single dot. "state" is answered when
+/// the panel has come to rest, with the lines of windowState(); a step is answered before it acts.
 class DriverServer : public QObject
 {
     Q_OBJECT
@@ -34,10 +23,10 @@ public:
 
 private:
     void acceptClient();
-    void readRequests();
-    void handle(const QJsonObject &request);
-    void answerWhenIdle(const QJsonObject &reply, int quietRounds, int roundsLeft);
-    void send(const QJsonObject &reply);
+    void readLines();
+    void handle(const QString &line);
+    void sendStateWhenIdle(int quietRounds, int roundsLeft);
+    void send(const QString &outcome, const QStringList &lines = {});
 
     QLocalServer m_server;
     QPointer<QLocalSocket> m_client; ///< owned by m_server

@@ -5,10 +5,12 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QKeySequence>
 #include <QPointer>
 #include <QRadioButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QStyleOptionButton>
 #include <QTabBar>
@@ -30,25 +32,19 @@ Spot noSpot(const QString &error)
     return {nullptr, QPoint(), error};
 }
 
-QJsonObject target(const QJsonObject &request)
+// The place of an entry that is given by its text, or by "#" and its number; -1 if there is none.
+int entryIndex(const QString &wanted, const QStringList &texts)
 {
-    return request.value("target").toObject();
-}
-
-// The place of an entry that is given by its number or its text; -1 if there is none.
-int entryIndex(const QJsonValue &wanted, const QStringList &texts)
-{
-    const int index = wanted.isString() ? texts.indexOf(wanted.toString()) : wanted.toInt(-1);
+    const int index = wanted.startsWith('#') ? wanted.mid(1).toInt() : texts.indexOf(wanted);
     return index < texts.size() ? index : -1;
 }
 
-QString entryError(const QString &what, const QJsonValue &wanted, const QStringList &texts)
+QString entryError(const QString &what, const QString &wanted, const QStringList &texts)
 {
-    return QString("there is no %1 \"%2\" among: %3")
-        .arg(what, wanted.toVariant().toString(), texts.join(", "));
+    return QString("there is no %1 \"%2\" among: %3").arg(what, wanted, texts.join(", "));
 }
 
-Spot tabSpot(QWidget *widget, const QJsonValue &wanted)
+Spot tabSpot(QWidget *widget, const QString &wanted)
 {
     auto *bar = qobject_cast<QTabBar *>(widget);
     if (!bar)
@@ -64,7 +60,7 @@ Spot tabSpot(QWidget *widget, const QJsonValue &wanted)
     return {bar, bar->tabRect(index).center(), QString()};
 }
 
-Spot cellSpot(QWidget *widget, const QJsonValue &wanted, int column)
+Spot cellSpot(QWidget *widget, const QString &wanted, int column)
 {
     auto *view = qobject_cast<QAbstractItemView *>(widget);
     if (!view || !view->model())
@@ -81,7 +77,7 @@ Spot cellSpot(QWidget *widget, const QJsonValue &wanted, int column)
     return {view->viewport(), shown.center(), QString()};
 }
 
-Spot groupButtonSpot(QWidget *widget, const QJsonValue &wanted)
+Spot groupButtonSpot(QWidget *widget, const QString &wanted)
 {
     QStringList names;
     QList<QAbstractButton *> buttons;
@@ -121,22 +117,10 @@ Spot widgetSpot(QWidget *widget)
     return {widget, widget->rect().center(), QString()};
 }
 
-Spot findSpot(const QJsonObject &request)
+Spot findSpot(const QString &word)
 {
-    QJsonObject wanted = target(request);
-    const QJsonValue tab = request.value("tab");
-    if (wanted.isEmpty() && !tab.isUndefined())
-        wanted.insert("class", "QTabBar");
-    QWidget *widget = findVisibleWidget(wanted);
-    if (!widget)
-        return noSpot(notFoundMessage(wanted));
-    if (!tab.isUndefined())
-        return tabSpot(widget, tab);
-    if (request.contains("row"))
-        return cellSpot(widget, request.value("row"), request.value("column").toInt());
-    if (request.contains("button"))
-        return groupButtonSpot(widget, request.value("button"));
-    return widgetSpot(widget);
+    QWidget *widget = findVisibleWidget(word);
+    return widget ? widgetSpot(widget) : noSpot(notFoundMessage(word));
 }
 
 // Empty if the window gets input, else what keeps it from the user.
@@ -210,49 +194,92 @@ QWindow *keyboardWindow()
     return window ? window->windowHandle() : nullptr;
 }
 
-QWidget *windowFor(const QJsonObject &wanted)
+void sendKey(int combination)
 {
-    if (wanted.isEmpty())
-        return frontWindow();
-    QWidget *widget = findVisibleWidget(wanted);
-    return widget ? widget->window() : nullptr;
+    if (QWindow *window = keyboardWindow())
+        QTest::keyClick(window, static_cast<Qt::Key>(combination & ~Qt::KeyboardModifierMask),
+                        static_cast<Qt::KeyboardModifiers>(combination & Qt::KeyboardModifierMask));
 }
 
-} // namespace
-
-Outcome prepareClick(const QJsonObject &request)
+void sendText(const QString &text)
 {
-    const Spot spot = findSpot(request);
+    for (const QChar character : text) {
+        QWindow *window = keyboardWindow();
+        if (!window)
+            return;
+        // Qt's key codes of letters are the upper case characters.
+        const ushort code = character.unicode();
+        const Qt::Key key = code < 0x80 ? QTest::asciiToKey(static_cast<char>(code))
+                                        : static_cast<Qt::Key>(character.toUpper().unicode());
+        QTest::sendKeyEvent(QTest::Click, window, key, QString(character), Qt::NoModifier);
+    }
+}
+
+Step clickStep(const Spot &spot, bool twice = false)
+{
     const QString error = clickError(spot);
     if (!error.isEmpty())
-        return Outcome::failure(error);
-    return {{}, [spot] { clickAt(spot); }};
+        return {error, {}};
+    return {{}, [spot, twice] {
+                clickAt(spot);
+                if (twice && spot.widget)
+                    QTest::mouseDClick(spot.widget->window()->windowHandle(), Qt::LeftButton,
+                                       Qt::NoModifier,
+                                       spot.widget->mapTo(spot.widget->window(), spot.point));
+            }};
 }
 
-Outcome prepareChoose(const QJsonObject &request)
+Step checkStep(const QString &word, bool on)
 {
-    const Spot spot = findSpot(request);
+    const Spot spot = findSpot(word);
+    const auto *button = qobject_cast<QAbstractButton *>(spot.widget.data());
+    if (button && button->isCheckable() && button->isChecked() == on)
+        return {on ? "it is on already" : "it is off already", {}};
+    return clickStep(spot);
+}
+
+Step tabStep(const QString &wanted)
+{
+    QWidget *bar = findVisibleWidget("QTabBar");
+    return clickStep(bar ? tabSpot(bar, wanted) : noSpot("there is no tab bar"));
+}
+
+Step rowStep(const QString &word, const QString &row, int column, bool twice)
+{
+    QWidget *table = findVisibleWidget(word);
+    return clickStep(table ? cellSpot(table, row, column) : noSpot(notFoundMessage(word)), twice);
+}
+
+Step pickStep(const QString &word, const QString &button)
+{
+    QWidget *group = findVisibleWidget(word);
+    return clickStep(group ? groupButtonSpot(group, button) : noSpot(notFoundMessage(word)));
+}
+
+/// Opens the combo box and clicks the item in the list.
+Step chooseStep(const QString &word, const QString &wanted)
+{
+    const Spot spot = findSpot(word);
     auto *box = qobject_cast<QComboBox *>(spot.widget.data());
     QString error = clickError(spot);
     if (error.isEmpty() && !box)
         error = "the widget is no combo box";
     if (!error.isEmpty())
-        return Outcome::failure(error);
+        return {error, {}};
     QStringList texts;
     for (int row = 0; row < box->count(); ++row)
         texts.append(box->itemText(row));
-    const QJsonValue wanted = request.value("item");
     const int row = entryIndex(wanted, texts);
     const QModelIndex index = box->model()->index(row, box->modelColumn(), box->rootModelIndex());
     if (row < 0)
-        return Outcome::failure(entryError("item", wanted, texts));
+        return {entryError("item", wanted, texts), {}};
     if (!index.flags().testFlag(Qt::ItemIsEnabled))
-        return Outcome::failure(QString("the item \"%1\" is disabled").arg(texts.at(row)));
+        return {QString("the item \"%1\" is disabled").arg(texts.at(row)), {}};
 
     clickAt(spot);
     QAbstractItemView *list = box->view();
     if (!list->isVisible())
-        return Outcome::failure("the list did not open");
+        return {"the list did not open", {}};
     // The list takes no click before the pointer has moved a bit: it could be the end of the
     // click that opened it.
     movePointerTo({list->viewport(), list->viewport()->rect().bottomRight(), QString()});
@@ -266,66 +293,109 @@ Outcome prepareChoose(const QJsonObject &request)
     movePointerTo(item);
     if (list->currentIndex() != index) {
         box->hidePopup();
-        return Outcome::failure(QString("the item \"%1\" cannot be reached").arg(texts.at(row)));
+        return {QString("the item \"%1\" cannot be reached").arg(texts.at(row)), {}};
     }
     return {{}, [item] { clickAt(item); }};
 }
 
-Outcome prepareType(const QJsonObject &request)
+/// Types over what the field holds.
+Step typeStep(const QString &word, const QString &text)
 {
-    const QString text = request.value("text").toString();
-    if (!keyboardWindow())
-        return Outcome::failure("there is no window to type into");
-    return {{}, [text] {
-                for (const QChar character : text) {
-                    QWindow *window = keyboardWindow();
-                    if (!window)
-                        return;
-                    // Qt's key codes of letters are the upper case characters.
-                    const ushort code = character.unicode();
-                    const Qt::Key key = code < 0x80
-                                            ? QTest::asciiToKey(static_cast<char>(code))
-                                            : static_cast<Qt::Key>(character.toUpper().unicode());
-                    QTest::sendKeyEvent(QTest::Click, window, key, QString(character),
-                                        Qt::NoModifier);
+    const Spot spot = findSpot(word);
+    const QString error = clickError(spot);
+    if (!error.isEmpty())
+        return {error, {}};
+    return {{}, [spot, text] {
+                clickAt(spot);
+                sendKey(Qt::CTRL + Qt::Key_A);
+                if (text.isEmpty())
+                    sendKey(Qt::Key_Delete);
+                sendText(text);
+            }};
+}
+
+Step pressStep(const QStringList &keys)
+{
+    QVector<int> combinations;
+    for (const QString &key : keys) {
+        const QKeySequence sequence(key, QKeySequence::PortableText);
+        if (sequence.count() != 1 || sequence[0] == Qt::Key_unknown)
+            return {QString("\"%1\" is no key combination").arg(key), {}};
+        combinations.append(sequence[0]);
+    }
+    return {{}, [combinations] {
+                for (const int combination : combinations)
+                    sendKey(combination);
+            }};
+}
+
+/// Of the named widget's window, or the front window, as the window manager does.
+Step windowStep(const QString &word, bool close)
+{
+    QPointer<QWidget> window = frontWindow();
+    if (!word.isEmpty()) {
+        QWidget *widget = findVisibleWidget(word);
+        window = widget ? widget->window() : nullptr;
+    }
+    if (!window)
+        return {notFoundMessage(word), {}};
+    const QString blocked = obstacle(window);
+    if (!blocked.isEmpty())
+        return {blocked, {}};
+    return {{}, [window, close] {
+                if (close) {
+                    window->close();
+                } else {
+                    window->raise();
+                    window->activateWindow();
                 }
             }};
 }
 
-Outcome prepareKey(const QJsonObject &request)
+/// Saves a picture of the named widget, or of all windows on the screen, as a PNG file.
+Step grabStep(const QString &path, const QString &word)
 {
-    const QString keys = request.value("keys").toString();
-    const QKeySequence sequence(keys, QKeySequence::PortableText);
-    if (sequence.count() != 1 || sequence[0] == Qt::Key_unknown)
-        return Outcome::failure(QString("\"%1\" is no key combination").arg(keys));
-    if (!keyboardWindow())
-        return Outcome::failure("no window takes keys");
-    const int combination = sequence[0];
-    return {{}, [combination] {
-                QTest::keyClick(
-                    keyboardWindow(), static_cast<Qt::Key>(combination & ~Qt::KeyboardModifierMask),
-                    static_cast<Qt::KeyboardModifiers>(combination & Qt::KeyboardModifierMask));
-            }};
+    QWidget *widget = word.isEmpty() ? nullptr : findVisibleWidget(word);
+    if (!word.isEmpty() && !widget)
+        return {notFoundMessage(word), {}};
+    const QPixmap picture =
+        widget ? widget->grab() : QGuiApplication::primaryScreen()->grabWindow(0);
+    if (!picture.save(path, "PNG"))
+        return {"cannot save the picture as " + path, {}};
+    return {};
 }
 
-Outcome prepareActivate(const QJsonObject &request)
-{
-    QPointer<QWidget> window = windowFor(target(request));
-    if (!window)
-        return Outcome::failure(notFoundMessage(target(request)));
-    return {{}, [window] {
-                window->raise();
-                window->activateWindow();
-            }};
-}
+} // namespace
 
-Outcome prepareClose(const QJsonObject &request)
+Step prepareStep(const QStringList &words)
 {
-    QPointer<QWidget> window = windowFor(target(request));
-    if (!window)
-        return Outcome::failure(notFoundMessage(target(request)));
-    const QString blocked = obstacle(window);
-    if (!blocked.isEmpty())
-        return Outcome::failure(blocked);
-    return {{}, [window] { window->close(); }};
+    const QString verb = words.value(0);
+    const QString first = words.value(1);
+    const QString second = words.value(2);
+    if (verb == "click" || verb == "doubleclick")
+        return clickStep(findSpot(first), verb != "click");
+    if (verb == "check" || verb == "uncheck")
+        return checkStep(first, verb == "check");
+    if (verb == "tab")
+        return tabStep(first);
+    if (verb == "row" || verb == "doublerow")
+        return rowStep(first, second, words.value(3).toInt(), verb != "row");
+    if (verb == "pick")
+        return pickStep(first, second);
+    if (verb == "choose")
+        return chooseStep(first, second);
+    if (verb == "type")
+        return typeStep(first, second);
+    if (verb == "press")
+        return pressStep(words.mid(1));
+    if (verb == "paste")
+        return {{}, [first] {
+                    QGuiApplication::clipboard()->setText(QString(first).replace("\\n", "\n"));
+                    sendKey(Qt::CTRL + Qt::Key_V);
+                }};
+    if (verb == "close" || verb == "activate")
+        return windowStep(first, verb == "close");
+    if (verb == "grab")
+        return grabStep(first, second);
+    return {QString("there is no step \"%1\"").arg(verb), {}};
 }

@@ -3,7 +3,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialogButtonBox>
-#include <QJsonDocument>
 #include <QMetaEnum>
 #include <QRegularExpression>
 
@@ -11,46 +10,48 @@
 
 namespace {
 
-bool isStandardButton(QWidget *widget, const QString &name)
+bool hasName(const QWidget *widget, const QString &word)
 {
-    auto *button = qobject_cast<QAbstractButton *>(widget);
+    return widget->accessibleName() == word;
+}
+
+bool isStandardButton(const QWidget *widget, const QString &word)
+{
+    auto *button = qobject_cast<const QAbstractButton *>(widget);
     auto *box = qobject_cast<QDialogButtonBox *>(widget->parentWidget());
     const int value = QMetaEnum::fromType<QDialogButtonBox::StandardButtons>().keyToValue(
-        name.toLatin1().constData());
-    return button && box && value > 0 && box->standardButton(button) == value;
+        word.toLatin1().constData());
+    return button && box && value > 0 &&
+           box->standardButton(const_cast<QAbstractButton *>(button)) == value;
 }
 
-bool matches(QWidget *widget, const QJsonObject &target)
+bool hasText(const QWidget *widget, const QString &word)
 {
-    for (auto it = target.begin(); it != target.end(); ++it) {
-        const QString wanted = it.value().toString();
-        bool fits = false;
-        if (it.key() == "name") {
-            fits = widget->accessibleName() == wanted;
-        } else if (it.key() == "class") {
-            fits = widget->inherits(wanted.toLatin1().constData());
-        } else if (it.key() == "text") {
-            auto *button = qobject_cast<QAbstractButton *>(widget);
-            fits = button && withoutMnemonic(button->text()) == wanted;
-        } else if (it.key() == "standardButton") {
-            fits = isStandardButton(widget, wanted);
-        }
-        if (!fits)
-            return false;
-    }
-    return !target.isEmpty();
+    auto *button = qobject_cast<const QAbstractButton *>(widget);
+    return button && withoutMnemonic(button->text()) == word;
 }
 
-QWidget *find(const QJsonObject &target, bool visible)
+bool hasClass(const QWidget *widget, const QString &word)
 {
+    return widget->inherits(word.toLatin1().constData());
+}
+
+QWidget *find(const QString &word, bool visible)
+{
+    if (word == "@focus")
+        return visible ? QApplication::focusWidget() : nullptr;
+    if (word.isEmpty())
+        return nullptr;
     const QList<QWidget *> windows = windowsFrontToBack();
-    for (QWidget *window : windows) {
-        QList<QWidget *> candidates = window->findChildren<QWidget *>();
-        candidates.prepend(window);
-        for (QWidget *widget : qAsConst(candidates))
-            if (widget->window() == window && widget->isVisible() == visible &&
-                matches(widget, target))
-                return widget;
+    for (const auto matches : {hasName, isStandardButton, hasText, hasClass}) {
+        for (QWidget *window : windows) {
+            QList<QWidget *> candidates = window->findChildren<QWidget *>();
+            candidates.prepend(window);
+            for (QWidget *widget : qAsConst(candidates))
+                if (widget->window() == window && widget->isVisible() == visible &&
+                    matches(widget, word))
+                    return widget;
+        }
     }
     return nullptr;
 }
@@ -71,22 +72,21 @@ int depth(const QWidget *window)
 
 } // namespace
 
-QWidget *findWidget(const QJsonObject &target)
+QWidget *findWidget(const QString &word)
 {
-    QWidget *shown = findVisibleWidget(target);
-    return shown ? shown : find(target, false);
+    QWidget *shown = find(word, true);
+    return shown ? shown : find(word, false);
 }
 
-QWidget *findVisibleWidget(const QJsonObject &target)
+QWidget *findVisibleWidget(const QString &word)
 {
-    return find(target, true);
+    return find(word, true);
 }
 
-QString notFoundMessage(const QJsonObject &target)
+QString notFoundMessage(const QString &word)
 {
-    const QString wanted = QString::fromUtf8(QJsonDocument(target).toJson(QJsonDocument::Compact));
-    return find(target, false) ? QString("the widget %1 is hidden").arg(wanted)
-                               : QString("there is no widget %1").arg(wanted);
+    return find(word, false) ? QString("the widget %1 is hidden").arg(word)
+                             : QString("there is no widget %1").arg(word);
 }
 
 QList<QWidget *> windowsFrontToBack()

@@ -1,25 +1,24 @@
 #pragma once
 
-#include <QJsonObject>
 #include <QList>
 #include <QString>
 
 class QWidget;
 
-/// The widget that a request's "target" names, or null.
+/// The widget that a word of a script names, or null.
 ///
-/// The keys of a target, all of which must fit: "name", the accessible name; "class", the class or
-/// a base class; "text", what a button says, without mnemonic; "standardButton", the name of a
-/// QDialogButtonBox::StandardButton, such as "Apply". Windows are searched from front to back, so
-/// that a modal dialog comes first, and shown widgets before hidden ones. An empty target finds
-/// nothing.
-QWidget *findWidget(const QJsonObject &target);
+/// A word is an accessible name; or a QDialogButtonBox::StandardButton, such as "Apply"; or what a
+/// button says, without mnemonic; or a class or base class, such as "QMessageBox"; "@focus" is the
+/// widget with the keyboard. Windows are searched from front to back, so that a modal dialog comes
+/// first, and shown widgets before hidden ones. In that order of kinds: a name found in any window
+/// goes before a text.
+QWidget *findWidget(const QString &word);
 
 /// The same for shown widgets only.
-QWidget *findVisibleWidget(const QJsonObject &target);
+QWidget *findVisibleWidget(const QString &word);
 
 /// Says why findVisibleWidget() found nothing.
-QString notFoundMessage(const QJsonObject &target);
+QString notFoundMessage(const QString &word);
 
 /// All top-level widgets: pop-up, modal window, active window, other shown ones, hidden ones.
 QList<QWidget *> windowsFrontToBack();

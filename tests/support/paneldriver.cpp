@@ -65,7 +65,7 @@ QString pluginPath(const QString &program)
     QDir folder = QFileInfo(program).absoluteDir();
     do {
         const QString path = folder.absoluteFilePath("tests/plugins");
-        if (QFileInfo::exists(path + "/generic/libpressdeskdriver.so"))
+        if (QFileInfo::exists(path + "/generic/libpressdeskolddriver.so"))
             return path;
     } while (folder.cdUp());
     return QString();
@@ -218,7 +218,7 @@ bool PanelDriver::start(const QStringList &arguments)
     QProcessEnvironment environment = m_environment;
     environment.insert("DISPLAY", display.name());
     environment.insert("QT_PLUGIN_PATH", plugins);
-    environment.insert("QT_QPA_GENERIC_PLUGINS", "pressdeskdriver");
+    environment.insert("QT_QPA_GENERIC_PLUGINS", "pressdeskolddriver");
     environment.insert("PRESSDESK_DRIVER_SOCKET", socketPath);
     m_panel.setProcessEnvironment(environment);
     // Files, so that a panel that says much never waits for us to read it.

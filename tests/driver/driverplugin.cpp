@@ -1,8 +1,8 @@
-#include "paneldriverplugin.h"
+#include "driverplugin.h"
 
 #include "driverserver.h"
 
-QObject *PanelDriverPlugin::create(const QString &name, const QString &specification)
+QObject *DriverPlugin::create(const QString &name, const QString &specification)
 {
     Q_UNUSED(specification)
     const QString socketPath = qEnvironmentVariable("PRESSDESK_DRIVER_SOCKET");

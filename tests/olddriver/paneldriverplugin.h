@@ -2,11 +2,11 @@
 
 #include <QGenericPlugin>
 
-/// Qt loads this plugin into the panel when QT_QPA_GENERIC_PLUGINS names "pressdeskdriver".
+/// Qt loads this plugin into the panel when QT_QPA_GENERIC_PLUGINS names "pressdeskolddriver".
 class PanelDriverPlugin : public QGenericPlugin
 {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "pressdeskdriver.json")
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "pressdeskolddriver.json")
 
 public:
     /// The running driver, owned by the application object; null for another key and without a

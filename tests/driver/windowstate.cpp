@@ -1,0 +1,286 @@
+#include "windowstate.h"
+
+#include "widgetfinder.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMetaEnum>
+#include <QSet>
+#include <QTabBar>
+#include <QTableView>
+#include <QTextDocumentFragment>
+#include <QTextEdit>
+
+namespace {
+
+bool isInside(const QWidget *widget, const char *className)
+{
+    for (const QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (parent->inherits(className))
+            return true;
+    }
+    return false;
+}
+
+/// Hidden by itself or by what it stands in, not because another page is in front.
+bool isHiddenOnItsPage(const QWidget *widget)
+{
+    for (; widget && !widget->isWindow() && !widget->inherits("Tab");
+         widget = widget->parentWidget()) {
+        if (widget->isHidden())
+            return true;
+    }
+    return false;
+}
+
+bool isMarked(const QString &text)
+{
+    return text.contains("<img");
+}
+
+QString plain(const QString &text)
+{
+    const QString words =
+        Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+    return QString(words).remove(QChar::ObjectReplacementCharacter).simplified();
+}
+
+QString quoted(const QString &text)
+{
+    return '"' + text + '"';
+}
+
+/// Collects the lines of one widget.
+class Lines
+{
+public:
+    explicit Lines(QStringList *lines)
+        : lines(lines)
+    {
+    }
+
+    void add(const QString &key, const QString &value)
+    {
+        lines->append(key + '\t' + QString(value).replace('\n', ' ').replace('\t', ' '));
+    }
+
+    void addWidget(const QString &name, const QWidget *widget)
+    {
+        QString value = valueOf(name, widget);
+        if (!widget->isEnabledTo(page(widget)))
+            value += " grey";
+        if (isHiddenOnItsPage(widget))
+            value += " hidden";
+        add(name, value.trimmed());
+    }
+
+private:
+    static const QWidget *page(const QWidget *widget)
+    {
+        while (widget->parentWidget() && !widget->isWindow() && !widget->inherits("Tab"))
+            widget = widget->parentWidget();
+        return widget;
+    }
+
+    static QString mark(bool marked, const QString &toolTip)
+    {
+        return marked ? " marked" + (toolTip.isEmpty() ? QString() : ' ' + quoted(plain(toolTip)))
+                      : QString();
+    }
+
+    QString valueOf(const QString &name, const QWidget *widget)
+    {
+        if (auto *box = qobject_cast<const QComboBox *>(widget))
+            return comboBox(name, box);
+        if (widget->inherits("BixButtonGroup"))
+            return buttonGroup(name, widget);
+        if (widget->inherits("BixCheckBoxButton"))
+            widget = widget->findChild<QCheckBox *>();
+        if (auto *button = qobject_cast<const QAbstractButton *>(widget))
+            return button->isCheckable() ? (button->isChecked() ? "on" : "off") +
+                                               mark(qobject_cast<const QCheckBox *>(button) &&
+                                                        !button->icon().isNull() &&
+                                                        !isInside(button, "BixCheckBoxButton"),
+                                                    button->toolTip())
+                                         : QString("button");
+        if (auto *label = qobject_cast<const QLabel *>(widget))
+            return quoted(plain(label->text())) + mark(isMarked(label->text()), label->toolTip());
+        if (auto *line = qobject_cast<const QLineEdit *>(widget))
+            return quoted(line->text());
+        if (auto *text = qobject_cast<const QTextEdit *>(widget))
+            return quoted(text->toPlainText());
+        if (auto *slider = qobject_cast<const QAbstractSlider *>(widget))
+            return QString::number(slider->value());
+        if (auto *view = qobject_cast<const QTableView *>(widget))
+            return table(name, view);
+        return "shown";
+    }
+
+    QString comboBox(const QString &name, const QComboBox *box)
+    {
+        QStringList items;
+        QStringList blocked;
+        for (int row = 0; row < box->count(); ++row) {
+            const QModelIndex index =
+                box->model()->index(row, box->modelColumn(), box->rootModelIndex());
+            items.append(box->itemText(row));
+            if (!index.flags().testFlag(Qt::ItemIsEnabled))
+                blocked.append(box->itemText(row));
+        }
+        add(name + ".items", items.join('|'));
+        add(name + ".blocked", blocked.join('|'));
+        return box->currentText();
+    }
+
+    QString buttonGroup(const QString &name, const QWidget *group)
+    {
+        QString checked;
+        QStringList items;
+        QStringList blocked;
+        const auto buttons = group->findChildren<QAbstractButton *>();
+        for (const QAbstractButton *button : buttons) {
+            // Buttons that the group has given up stay its children.
+            if (button->isHidden())
+                continue;
+            items.append(button->accessibleName());
+            if (button->isChecked())
+                checked = button->accessibleName();
+            if (!button->isEnabledTo(group))
+                blocked.append(button->accessibleName());
+        }
+        add(name + ".items", items.join('|'));
+        add(name + ".blocked", blocked.join('|'));
+        const auto *label = group->findChild<QLabel *>();
+        if (label)
+            add(name + ".label", quoted(plain(label->text())));
+        return checked + (label ? mark(isMarked(label->text()), label->toolTip()) : QString());
+    }
+
+    QString table(const QString &name, const QTableView *view)
+    {
+        const QAbstractItemModel *model = view->model();
+        QStringList rows;
+        for (int row = 0; model && row < model->rowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < model->columnCount(); ++column)
+                cells.append(model->index(row, column).data().toString());
+            rows.append(cells.join(' '));
+        }
+        add(name + ".items", rows.join('|'));
+        const QModelIndexList selected =
+            view->selectionModel() ? view->selectionModel()->selectedRows() : QModelIndexList();
+        return selected.isEmpty() ? "no row" : quoted(rows.value(selected.first().row()));
+    }
+
+    QStringList *lines;
+};
+
+QString standardName(const QDialogButtonBox *box, const QAbstractButton *button)
+{
+    const auto standard = QMetaEnum::fromType<QDialogButtonBox::StandardButtons>();
+    return standard.valueToKey(box->standardButton(const_cast<QAbstractButton *>(button)));
+}
+
+void addStandardButtons(Lines *lines, const QWidget *window)
+{
+    const auto boxes = window->findChildren<QDialogButtonBox *>();
+    for (const QDialogButtonBox *box : boxes) {
+        const auto buttons = box->buttons();
+        for (const QAbstractButton *button : buttons)
+            lines->add(standardName(box, button),
+                       withoutMnemonic(button->text()) + (button->isEnabled() ? "" : " grey"));
+    }
+}
+
+/// Whether the tab shows the picture that stands for a mark on its page.
+bool isTabMarked(const QTabBar *bar, int index)
+{
+    const QSize size = bar->iconSize();
+    const QImage shown = bar->tabIcon(index).pixmap(size).toImage();
+    for (const char *page : {"printer", "basic", "layout", "finishing", "imaging", "publishing",
+                             "job", "watermark", "fkp"}) {
+        const QIcon marked(QString(":/icons/tab-%1-constraint").arg(page));
+        if (!marked.isNull() && marked.pixmap(size).toImage() == shown)
+            return true;
+    }
+    return false;
+}
+
+void addTabs(Lines *lines, const QTabBar *bar)
+{
+    QStringList titles;
+    QStringList marked;
+    for (int index = 0; index < bar->count(); ++index) {
+        if (bar->tabRect(index).isEmpty() || !bar->isTabEnabled(index))
+            continue;
+        titles.append(withoutMnemonic(bar->tabText(index)));
+        if (isTabMarked(bar, index))
+            marked.append(titles.last());
+    }
+    lines->add("tabs", titles.join('|'));
+    lines->add("marked", marked.join('|'));
+    lines->add("page", withoutMnemonic(bar->tabText(bar->currentIndex())));
+}
+
+void addFront(Lines *lines, const QWidget *window)
+{
+    lines->add("title", window->windowTitle());
+    if (const auto *box = qobject_cast<const QMessageBox *>(window))
+        lines->add("message", plain(box->text()));
+}
+
+} // namespace
+
+QStringList windowState()
+{
+    QStringList all;
+    Lines lines(&all);
+    if (const QWidget *front = frontWindow())
+        addFront(&lines, front);
+    QSet<QString> seen;
+    const QList<QWidget *> windows = windowsFrontToBack();
+    for (const QWidget *window : windows) {
+        if (!window->isVisible() || window->windowType() == Qt::ToolTip)
+            continue;
+        addStandardButtons(&lines, window);
+        const auto widgets = window->findChildren<QWidget *>();
+        for (const QWidget *widget : widgets) {
+            if (const auto *bar = qobject_cast<const QTabBar *>(widget))
+                addTabs(&lines, bar);
+            QString name = widget->accessibleName();
+            if (name.isEmpty() || widget->window() != window ||
+                isInside(widget, "BixButtonGroup") || isInside(widget, "BixCheckBoxButton"))
+                continue;
+            while (seen.contains(name))
+                name += '\'';
+            seen.insert(name);
+            lines.addWidget(name, widget);
+        }
+    }
+    return all;
+}
+
+QString propertyText(const QWidget *widget, const QString &property)
+{
+    if (property == "color")
+        return widget->palette().color(widget->foregroundRole()).name();
+    const QVariant value = widget->property(property.toLatin1().constData());
+    if (value.canConvert<QRect>()) {
+        const QRect rect = value.toRect();
+        return QString("%1 %2 %3 %4")
+            .arg(rect.x())
+            .arg(rect.y())
+            .arg(rect.width())
+            .arg(rect.height());
+    }
+    if (value.canConvert<QSize>())
+        return QString("%1 %2").arg(value.toSize().width()).arg(value.toSize().height());
+    return value.toString().replace('\n', ' ');
+}
