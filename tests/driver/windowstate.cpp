@@ -269,8 +269,12 @@ QStringList windowState()
 
 QString propertyText(const QWidget *widget, const QString &property)
 {
-    if (property == "color")
-        return widget->palette().color(widget->foregroundRole()).name();
+    if (property == "color") {
+        const auto *label =
+            widget->inherits("BixButtonGroup") ? widget->findChild<QLabel *>() : nullptr;
+        const QWidget *text = label ? label : widget;
+        return text->palette().color(text->foregroundRole()).name();
+    }
     const QVariant value = widget->property(property.toLatin1().constData());
     if (value.canConvert<QRect>()) {
         const QRect rect = value.toRect();

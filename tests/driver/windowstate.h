@@ -13,5 +13,5 @@ class QWidget;
 /// of a group, and those that can't be picked.
 QStringList windowState();
 
-/// A property of a widget as text; "color" is that of its text.
+/// A property of a widget as text; "color" is that of its text, of a button group its label.
 QString propertyText(const QWidget *widget, const QString &property);
