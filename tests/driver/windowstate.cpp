@@ -174,6 +174,10 @@ private:
             rows.append(cells.join(' '));
         }
         add(name + ".items", rows.join('|'));
+        QStringList headers;
+        for (int column = 0; model && column < model->columnCount(); ++column)
+            headers.append(model->headerData(column, Qt::Horizontal).toString());
+        add(name + ".headers", headers.join('|'));
         const QModelIndexList selected =
             view->selectionModel() ? view->selectionModel()->selectedRows() : QModelIndexList();
         return selected.isEmpty() ? "no row" : quoted(rows.value(selected.first().row()));
