@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -17,6 +18,7 @@
 #include <QTableView>
 #include <QTextDocumentFragment>
 #include <QTextEdit>
+#include <QTreeView>
 
 namespace {
 
@@ -120,6 +122,8 @@ private:
             return QString::number(slider->value());
         if (auto *view = qobject_cast<const QTableView *>(widget))
             return table(name, view);
+        if (auto *view = qobject_cast<const QTreeView *>(widget))
+            addTree(name, view);
         return "shown";
     }
 
@@ -163,6 +167,30 @@ private:
         return checked + (label ? mark(isMarked(label->text()), label->toolTip()) : QString());
     }
 
+    /// Behind the text a tool tip that says something else.
+    static QString cellText(const QModelIndex &cell)
+    {
+        const QString text = cell.data().toString();
+        const QString tip = plain(cell.data(Qt::ToolTipRole).toString());
+        return tip.isEmpty() || tip == text.simplified() ? text : text + ' ' + quoted(tip);
+    }
+
+    /// Headings, and below those that are expanded "LABEL: TEXT".
+    void addTree(const QString &name, const QTreeView *view)
+    {
+        const QAbstractItemModel *model = view->model();
+        QStringList rows;
+        for (int row = 0; row < model->rowCount(); ++row) {
+            const QModelIndex heading = model->index(row, 0);
+            rows.append(cellText(heading));
+            for (int child = 0; view->isExpanded(heading) && child < model->rowCount(heading);
+                 ++child)
+                rows.append(cellText(model->index(child, 0, heading)) + ": " +
+                            cellText(model->index(child, 1, heading)));
+        }
+        add(name + ".items", rows.join('|'));
+    }
+
     QString table(const QString &name, const QTableView *view)
     {
         const QAbstractItemModel *model = view->model();
@@ -170,7 +198,7 @@ private:
         for (int row = 0; model && row < model->rowCount(); ++row) {
             QStringList cells;
             for (int column = 0; column < model->columnCount(); ++column)
-                cells.append(model->index(row, column).data().toString());
+                cells.append(cellText(model->index(row, column)));
             rows.append(cells.join(' '));
         }
         add(name + ".items", rows.join('|'));
@@ -186,6 +214,17 @@ private:
     QStringList *lines;
 };
 
+/// Whether a user who hears a dialog could not tell what this control of it is.
+bool isNameless(const QWidget *widget)
+{
+    if (!widget->isVisible() || widget->isWindow() || widget->focusPolicy() == Qt::NoFocus ||
+        widget->window()->inherits("BixDialog"))
+        return false;
+    const QAccessibleInterface *control =
+        QAccessible::queryAccessibleInterface(const_cast<QWidget *>(widget));
+    return !control || control->text(QAccessible::Name).isEmpty();
+}
+
 QString standardName(const QDialogButtonBox *box, const QAbstractButton *button)
 {
     const auto standard = QMetaEnum::fromType<QDialogButtonBox::StandardButtons>();
@@ -197,9 +236,12 @@ void addStandardButtons(Lines *lines, const QWidget *window)
     const auto boxes = window->findChildren<QDialogButtonBox *>();
     for (const QDialogButtonBox *box : boxes) {
         const auto buttons = box->buttons();
-        for (const QAbstractButton *button : buttons)
-            lines->add(standardName(box, button),
-                       withoutMnemonic(button->text()) + (button->isEnabled() ? "" : " grey"));
+        for (const QAbstractButton *button : buttons) {
+            const QString text = withoutMnemonic(button->text());
+            const QString name = standardName(box, button);
+            lines->add(name == "NoButton" ? text : name,
+                       text + (button->isEnabled() ? "" : " grey"));
+        }
     }
 }
 
@@ -248,6 +290,7 @@ QStringList windowState()
     Lines lines(&all);
     if (const QWidget *front = frontWindow())
         addFront(&lines, front);
+    QStringList nameless;
     QSet<QString> seen;
     const QList<QWidget *> windows = windowsFrontToBack();
     for (const QWidget *window : windows) {
@@ -258,6 +301,8 @@ QStringList windowState()
         for (const QWidget *widget : widgets) {
             if (const auto *bar = qobject_cast<const QTabBar *>(widget))
                 addTabs(&lines, bar);
+            if (isNameless(widget))
+                nameless.append(widget->metaObject()->className());
             QString name = widget->accessibleName();
             if (name.isEmpty() || widget->window() != window ||
                 isInside(widget, "BixButtonGroup") || isInside(widget, "BixCheckBoxButton"))
@@ -268,6 +313,8 @@ QStringList windowState()
             lines.addWidget(name, widget);
         }
     }
+    if (!nameless.isEmpty())
+        lines.add("nameless", nameless.join('|'));
     return all;
 }
 
@@ -279,6 +326,8 @@ QString propertyText(const QWidget *widget, const QString &property)
         const QWidget *text = label ? label : widget;
         return text->palette().color(text->foregroundRole()).name();
     }
+    if (property == "heading")
+        return widget->property("plainText").toString().section('\n', 0, 0);
     const QVariant value = widget->property(property.toLatin1().constData());
     if (value.canConvert<QRect>()) {
         const QRect rect = value.toRect();
@@ -288,7 +337,10 @@ QString propertyText(const QWidget *widget, const QString &property)
             .arg(rect.width())
             .arg(rect.height());
     }
-    if (value.canConvert<QSize>())
-        return QString("%1 %2").arg(value.toSize().width()).arg(value.toSize().height());
+    if (value.canConvert<QSize>() || value.canConvert<QPixmap>()) {
+        const QSize size =
+            value.canConvert<QPixmap>() ? value.value<QPixmap>().size() : value.toSize();
+        return QString("%1 %2").arg(size.width()).arg(size.height());
+    }
     return value.toString().replace('\n', ' ');
 }

@@ -10,8 +10,10 @@ class QWidget;
 ///
 /// "NAME" is a control's value, in quotes if a user can type it, with "grey", "hidden" and "marked"
 /// behind it as they fit; "NAME.items" and "NAME.blocked" are all items of a combo box or buttons
-/// of a group, and those that can't be picked.
+/// of a group, and those that can't be picked, or the lines of a tree. "nameless" are the classes
+/// of a dialog's controls that a screen reader has no name for.
 QStringList windowState();
 
-/// A property of a widget as text; "color" is that of its text, of a button group its label.
+/// A property of a widget as text; "color" is that of its text, of a button group its label;
+/// "heading" is the first line of a long text.
 QString propertyText(const QWidget *widget, const QString &property);

@@ -37,7 +37,7 @@ void addListChange(const QString &key, const QString &before, const QString &aft
 /// What is not said when another printer is shown: nearly everything is another then.
 bool isOfWidget(const QString &key)
 {
-    static const QStringList others{"title", "message", "marked", "lblRootWarning"};
+    static const QStringList others{"title", "message", "nameless", "marked", "lblRootWarning"};
     return !others.contains(key);
 }
 
@@ -46,7 +46,7 @@ QStringList windowChanges(const PanelState &before, const PanelState &after, boo
     QStringList lines;
     for (auto entry = after.begin(); entry != after.end(); ++entry) {
         const QString &key = entry.key();
-        const bool isOfFront = key == "title" || key == "message";
+        const bool isOfFront = key == "title" || key == "message" || key == "nameless";
         if ((!before.contains(key) && !isOfFront) || before.value(key) == entry.value() ||
             (quiet && (isOfWidget(key) || entry.value().startsWith("Brixola Press Desk"))))
             continue;
