@@ -231,16 +231,21 @@ QString standardName(const QDialogButtonBox *box, const QAbstractButton *button)
     return standard.valueToKey(box->standardButton(const_cast<QAbstractButton *>(button)));
 }
 
-void addStandardButtons(Lines *lines, const QWidget *window)
+/// Those of the window itself: below it are also dialogs that it has made. `seen`: the names that
+/// windows in front of it have.
+void addStandardButtons(Lines *lines, const QWidget *window, QSet<QString> *seen)
 {
     const auto boxes = window->findChildren<QDialogButtonBox *>();
     for (const QDialogButtonBox *box : boxes) {
         const auto buttons = box->buttons();
         for (const QAbstractButton *button : buttons) {
             const QString text = withoutMnemonic(button->text());
-            const QString name = standardName(box, button);
-            lines->add(name == "NoButton" ? text : name,
-                       text + (button->isEnabled() ? "" : " grey"));
+            const QString standard = standardName(box, button);
+            const QString name = standard == "NoButton" ? text : standard;
+            if (box->window() != window || seen->contains(name))
+                continue;
+            seen->insert(name);
+            lines->add(name, text + (button->isEnabled() ? "" : " grey"));
         }
     }
 }
@@ -292,11 +297,12 @@ QStringList windowState()
         addFront(&lines, front);
     QStringList nameless;
     QSet<QString> seen;
+    QSet<QString> seenButtons;
     const QList<QWidget *> windows = windowsFrontToBack();
     for (const QWidget *window : windows) {
         if (!window->isVisible() || window->windowType() == Qt::ToolTip)
             continue;
-        addStandardButtons(&lines, window);
+        addStandardButtons(&lines, window, &seenButtons);
         const auto widgets = window->findChildren<QWidget *>();
         for (const QWidget *widget : widgets) {
             if (const auto *bar = qobject_cast<const QTabBar *>(widget))
