@@ -1,0 +1,55 @@
+#include "pages/watermark/watermarkrecords.h"
+
+#include "functiontests.h"
+#include "support/testhelpers.h"
+
+class TestWatermarkRecords : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void lines_data();
+    void lines();
+    void quotedText();
+};
+
+void TestWatermarkRecords::lines_data()
+{
+    addRows({"line", "name", "look"}, R"(
+two words           | Not for sale=1 8 3 23 1 0 1       | Not for sale  | 1 8 3 23 1 0 1
+name with numbers   | x=9 9=1 2 3 4 5 6 0               | x=9 9         | 1 2 3 4 5 6 0
+name with quotes    | #1 "top"=1 2 3 4 5 6 0            | #1 "top"      | 1 2 3 4 5 6 0
+placeholders, emoji | %1 %2%9 🖨🔒=1 2 3 4 5 6 0         | %1 %2%9 🖨🔒   | 1 2 3 4 5 6 0
+no numbers          | Secret=                           | Secret        | 0 0 0 0 0 0 0
+no =                | Secret                            | Secret        | 0 0 0 0 0 0 0
+no name             | =1 2 3 4 5 6 0                    |               | 1 2 3 4 5 6 0
+numbers missing     | Secret=1 8                        | Secret        | 1 8 0 0 0 0 0
+numbers left over   | Secret=1  2 3 4 5 6 0 7 8         | Secret        | 1 2 3 4 5 6 0
+letters for numbers | Secret=a 2 3x 4 5 6 yes           | Secret        | 0 2 0 4 5 6 0
+number too big      | Secret=99999999999 2 3 4 5 6 0    | Secret        | 0 2 3 4 5 6 0
+)");
+    addRow("1,000 digits", "Secret=" + QString(1000, '7'), "Secret", "0 0 0 0 0 0 0");
+}
+
+void TestWatermarkRecords::lines()
+{
+    QFETCH(QString, line);
+    const Watermark::Record record = Watermark::fromLine(line);
+    QStringList look;
+    for (const int number : record.look)
+        look.append(QString::number(number));
+    QTEST(record.name, "name");
+    QTEST(look.join(' '), "look");
+    QCOMPARE(Watermark::toLine(record), record.name + '=' + look.join(' '));
+}
+
+void TestWatermarkRecords::quotedText()
+{
+    const QString quoted = Watermark::quotedText("a@b$c#d!e f! !!! 🔒");
+    QCOMPARE(quoted, QString("\"a\\@b\\$c\\#d\\!e\\ f\\!\\ \\!\\!\\!\\ 🔒\""));
+    QCOMPARE(Watermark::quotedText("a\\b\"c'd=e&f*"), QString("\"a\\b\"c'd=e&f*\"")); // stays
+}
+
+static const FunctionTests::Entry<TestWatermarkRecords> entry;
+
+#include "watermarkrecords.moc"
