@@ -1,0 +1,123 @@
+// What lpstat says of queues.
+
+#include "model/printerstatus.h"
+
+#include "functiontests.h"
+#include "support/testhelpers.h"
+
+namespace {
+
+/// A stand-in for lpstat at the front of PATH, for as long as this object lives: a shell script
+/// with the queue's name in $name.
+class FakeLpstat
+{
+public:
+    explicit FakeLpstat(const QByteArray &text)
+    {
+        const QString program = directory.filePath("lpstat");
+        QVERIFY(setFileText(program, "#!/bin/sh\nname=$2; cd \"${0%/*}\"\n" + text));
+        QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
+        qputenv("PATH", directory.path().toLocal8Bit() + ':' + outerPath);
+    }
+    ~FakeLpstat() { qputenv("PATH", outerPath); }
+
+    QTemporaryDir directory;
+
+private:
+    const QByteArray outerPath = qgetenv("PATH");
+};
+
+} // namespace
+
+class TestPrinterStatus : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void words_data();
+    void words();
+    void manyQueues();
+    void strangeAnswers();
+};
+
+void TestPrinterStatus::words_data()
+{
+    QTest::addColumn<QString>("status");
+    const QString table = R"(
+Idle     printer P1 is idle.  enabled since Tue Nov 24 10:00:00 2026
+Idle     Drucker P1 ist im Leerlauf.  Aktiviert seit Di 24 Nov 2026 10:00:00
+Idle     l'imprimante P1 est inactive.  activée depuis mar. 24 nov. 2026
+Idle     la stampante P1 è inattiva.  è stata abilitata da mar 24 nov 2026
+Idle     impressora P1 está inativa; habilitada desde ter 24 nov 2026
+Idle     la impresora P1 está inactiva.  activada desde mar 24 nov 2026
+Idle     Drucker P1 ist inaktiv.
+Idle     Drucker P1 ist leerlaufend.
+Idle     la stampante P1 è in attesa.
+Idle     a impressora P1 está ociosa.
+Paused   printer P1 disabled since Tue Nov 24 10:00:00 2026 - Paused
+Paused   Drucker P1 ist deaktiviert seit Di 24 Nov 2026 10:00:00 - angehalten
+Paused   imprimante P1 désactivée depuis mar. 24 nov. 2026 - En pause
+Paused   la stampante P1 è stata disabilitata da mar 24 nov 2026 In pausa
+Paused   a impressora P1 foi desativada desde ter 24 nov 2026 - Em pausa
+Paused   la impresora P1 está deshabilitada desde mar 24 nov 2026 - Paused
+Printing printer P1 now printing P1-12.  enabled since Tue Nov 24 10:00:00 2026
+Printing Drucker P1 druckt jetzt P1-12.  Aktiviert seit Di 24 Nov 2026 10:00:00
+Printing imprimante P1 : impression de P1-12 en cours.  activée depuis mar.
+Printing la stampante P1 sta stampando P1-12. è stata abilitata da mar 24 nov
+Printing impressora P1 está imprimindo P1-12; habilitada desde ter 24 nov
+Printing la impresora P1 está ahora imprimiendo P1-12.  activada desde mar
+Idle     printer P1 now printing P1-12. Sleeps when idle)";
+    for (const QString &line : table.split('\n', Qt::SkipEmptyParts))
+        addRow(qPrintable(line.mid(9)), line.left(9).trimmed());
+    // No word of any language, or not as a whole word: shown as it is.
+    for (const char *other : {"printer P1 IS IDLE", "stampando", "プリンター P1 は待機中です"})
+        addRow(other, QString(other));
+}
+
+void TestPrinterStatus::words()
+{
+    QFETCH(QString, status);
+    QCOMPARE(statusFromOutput(QString::fromUtf8(QTest::currentDataTag())), status);
+}
+
+void TestPrinterStatus::manyQueues()
+{
+    // The first is the slowest; each notes how many are at work with it.
+    const FakeLpstat lpstat(": > working.$$; echo working.* | wc -w >> counts\n"
+                            "[ \"$name\" = q0 ] && sleep 0.3; sleep 0.03; rm working.$$\n"
+                            "echo \"status of $name\"\n");
+    QStringList queues, expected;
+    for (int i = 0; i <= 40; ++i) { // the last a second row of the first
+        queues.append(QStringLiteral("q%1").arg(i % 40));
+        expected.append("status of " + queues.last());
+    }
+    QCOMPARE(PrinterStatusReader().statuses(queues), expected);
+    int most = 0;
+    const QByteArrayList counts = fileText(lpstat.directory.filePath("counts")).split('\n');
+    QCOMPARE(counts.size(), 40 + 1);
+    for (const QByteArray &count : counts)
+        most = qMax(most, count.toInt());
+    QVERIFY(most > 1);  // side by side
+    QVERIFY(most <= 8); // the scheduler would refuse some of the connections
+}
+
+void TestPrinterStatus::strangeAnswers()
+{
+    const FakeLpstat lpstat("case $name in\n"
+                            "chatty) head -c 1000000 /dev/zero | tr '\\0' x ;;\n"
+                            "late) head -c 2000 /dev/zero | tr '\\0' x; echo idle ;;\n"
+                            "lines) printf 'one\\ntwo\\n' ;;\n"
+                            "binary) printf '\\377\\376 is idle' ;;\n"
+                            "fails) exit 1 ;;\n"
+                            "closes) exec >&-; sleep 0.2 ;;\n"
+                            "*) echo \"printer $name is idle.\" ;;\n"
+                            "esac\n");
+    const QString cut(1023, 'x');
+    QCOMPARE(PrinterStatusReader().statuses(
+                 {"chatty", "late", "lines", "binary", "fails", "closes", "fine"}),
+             QStringList({cut, cut, "onetwo", "Idle", QString(), QString(), "Idle"}));
+}
+
+static const FunctionTests::Entry<TestPrinterStatus> entry;
+
+#include "printerstatus.moc"
