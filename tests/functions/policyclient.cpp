@@ -1,0 +1,228 @@
+// The login at the policy server: what a real HTTPS server's answers lead to, and what is read in
+// them.
+
+#include "functiontests.h"
+#include "policy/bcurl.h"
+#include "policy/policyreply.h"
+#include "support/testhelpers.h"
+
+#include <QTcpSocket>
+
+namespace {
+
+constexpr int settleMs = 400;
+constexpr int megabyte = 1 << 20;
+constexpr int shownLength = 20; // of a message: one is huge
+
+struct Answer
+{
+    const char *user;
+    const char *script;  ///< writes the answer; "later" waits until all messages have come
+    const char *message; ///< null if there is none
+    int errors;
+    int more = 0; ///< errors that may come or not: who is faster, the connection's end or ours?
+};
+
+constexpr Answer answersOfServer[] = {
+    {"good", "http 200 2; printf {}", "{}", 0},
+    {"slow and huge", "sleep 1; http 200 9999999; yes '{' | tr -d '\\n' | head -c 9999999",
+     "{{{{{{{{{{{{{{{{{{{{", 0},
+    {"other alphabet", "http 200 4; printf Zoë", "Zoë", 0},
+    {"zero byte ends it", "http 200 3; printf 'a\\0b'", "a", 0},
+    {"no UTF-8", "http 200 2; printf 'a\\377'", "a\xef\xbf\xbd", 0},
+    {"nothing in it", "http 200 0", nullptr, 0},
+    {"fault with a page at once", "printf %s \"$(http 500 4; printf oops)\"", "oops", 0, 1},
+    {"fault with a page in pieces", "http 500 4; printf oo; later; printf ps", "oo", 0},
+    {"fault with nothing", "http 500 0", nullptr, 1},
+    {"two pieces", "http 200 6; printf one; later; printf two", "one", 0},
+    {"body later", "http 200 3; sleep .5; printf one", "one", 0},
+    {"closed half-way", "http 200 6; printf one", "one", 0, 1},
+    {"closed half-way later", "http 200 6; printf one; later", "one", 0},
+    {"closed in the headers", "printf 'HTTP/1.1 200 OK\\r\\nContent-Ty'", nullptr, 1},
+    {"closed at once", ":", nullptr, 1},
+    {"no HTTP", "printf '220 mail.example.com ESMTP\\r\\n\\r\\n'", nullptr, 1},
+};
+
+/// A client with what it has told.
+struct Client
+{
+    /// The messages without the tag, which has to be there.
+    static QStringList texts(const QSignalSpy &spy, const QString &tag)
+    {
+        QStringList list;
+        for (const QList<QVariant> &call : spy) {
+            const QString text = call.first().toString();
+            list.append(text.startsWith(tag) ? text.mid(tag.size(), shownLength) : "no tag");
+        }
+        return list;
+    }
+
+    bcurl curl;
+    QSignalSpy messages{&curl, &bcurl::messageReady};
+    QSignalSpy errors{&curl, &bcurl::errorReady};
+};
+
+} // namespace
+
+class TestPolicyClient : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void answers();
+    void unreachable();
+    void tags_data();
+    void tags();
+    void policies_data();
+    void policies();
+    void reports_data();
+    void reports();
+};
+
+void TestPolicyClient::answers()
+{
+    QTemporaryDir folder;
+    for (const Answer &answer : answersOfServer)
+        QVERIFY(setFileText(folder.filePath(answer.user), answer.script));
+    QProcess server;
+    server.start(
+        qEnvironmentVariable("PRESSDESK_BUILD_DIR") + "/tests/policyserver",
+        {"9094",
+         QString("http() { printf 'HTTP/1.1 %s x\\r\\nContent-Length: %d\\r\\n\\r\\n' $@; }\n"
+                 "later() { until [ -e %1/go ]; do sleep .05; done; }\n"
+                 "user=$(sed -n 's/^userID=\\(.*\\)&.*/\\1/p')\n"
+                 ". \"%1/$user\"")
+             .arg(folder.path())});
+    QTcpSocket probe;
+    QTRY_VERIFY((probe.abort(), probe.connectToHost("127.0.0.1", 9094), probe.waitForConnected()));
+
+    // All at once: no request waits for another.
+    std::vector<std::unique_ptr<Client>> clients;
+    for (const Answer &answer : answersOfServer) {
+        clients.push_back(std::make_unique<Client>());
+        clients.back()->curl.post("https://127.0.0.1:9094", answer.user, "secret");
+    }
+    for (size_t i = 0; i < clients.size(); ++i)
+        QTRY_VERIFY2(clients[i]->messages.size() >= (answersOfServer[i].message ? 1 : 0),
+                     answersOfServer[i].user);
+    QVERIFY(setFileText(folder.filePath("go"), ""));
+    for (size_t i = 0; i < clients.size(); ++i)
+        QTRY_VERIFY2(clients[i]->errors.size() >= answersOfServer[i].errors,
+                     answersOfServer[i].user);
+    QTest::qWait(settleMs);
+    server.kill();
+    server.waitForFinished();
+    for (size_t i = 0; i < clients.size(); ++i) {
+        const Answer &wanted = answersOfServer[i];
+        const QString tag = QString("<https://127.0.0.1:9094 %1>").arg(wanted.user);
+        const QString name = wanted.user + QString(": ");
+        QCOMPARE(name + Client::texts(clients[i]->messages, tag).join("|"), name + wanted.message);
+        const QStringList errors = Client::texts(clients[i]->errors, tag);
+        QVERIFY2(errors.size() >= wanted.errors && errors.size() <= wanted.errors + wanted.more &&
+                     !errors.contains("no tag") && !errors.contains(""),
+                 qPrintable(name + errors.join("|")));
+    }
+}
+
+void TestPolicyClient::unreachable()
+{
+    const QStringList hosts{"127.0.0.1:1",
+                            "my server:9094",
+                            "a:b:c:9094",
+                            QString(260, 'n') + ":9094",
+                            "nowhere.invalid:9094",
+                            "[::1:9094",
+                            "127.0.0.1:",
+                            "127.0.0.1:9999999999999999",
+                            ":"};
+    Client client;
+    for (const QString &host : hosts)
+        client.curl.post("https://" + host, "ann", "secret");
+    QTRY_COMPARE(client.errors.size(), hosts.size());
+    QTest::qWait(settleMs);
+    QCOMPARE(client.errors.size(), hosts.size());
+    QCOMPARE(client.messages.size(), 0);
+}
+
+void TestPolicyClient::tags_data()
+{
+    // Stale or not for host h, port 9094, user "ann lee".
+    addRows({"message", "stale", "body"}, R"(
+same login                  | <https://h:9094 ann lee>{}       | 0 | {}
+angle brackets in the body  | <https://h:9094 ann lee><p>a</p> | 0 | <p>a</p>
+empty body                  | <https://h:9094 ann lee>         | 0 |
+other server                | <https://i:9094 ann lee>{}       | 1 | {}
+other port                  | <https://h:9095 ann lee>{}       | 1 | {}
+other user                  | <https://h:9094 ann>{}           | 1 | {}
+upper case                  | <https://H:9094 ann lee>{}       | 1 | {}
+address with colons         | <https://[::1]:9094 ann lee>{}   | 1 | {}
+no tag                      | {}                               | 0 | {}
+tag of something else       | <p>{}                            | 0 | {}
+)");
+}
+
+void TestPolicyClient::tags()
+{
+    QFETCH(QString, message);
+    QTEST(QString::number(PolicyReply::isStale(message, "h", "9094", "ann lee")), "stale");
+    QTEST(PolicyReply::withoutTag(message), "body");
+    // Over several lines it is the same.
+    QCOMPARE(PolicyReply::withoutTag("<t>{\n\"a\":1}\n"), QString("{\n\"a\":1}\n"));
+}
+
+void TestPolicyClient::policies_data()
+{
+    // Color, leanprint, duplex; before they are On Off On.
+    addRows({"body", "accepted", "after"}, R"(
+all three              | {"Policies":{"JE.FullColorPrint":"ON","DR.LeanPrintRestriction":"PV.On","DR.DuplexRestriction":"PV.On"}} | 1 | On On On
+none of them named     | {"Policies":{}}                                                              | 1 | On Off On
+one lifted, one added  | {"Policies":{"JE.FullColorPrint":"OFF","DR.LeanPrintRestriction":"PV.On"}}   | 1 | Off On On
+other case             | {"Policies":{"JE.FullColorPrint":"on","DR.DuplexRestriction":"PV.ON"}}       | 1 | Off Off Off
+no strings             | {"Policies":{"JE.FullColorPrint":true,"DR.DuplexRestriction":null}}          | 1 | Off Off Off
+policies are a list    | {"Policies":["JE.FullColorPrint"]}                                           | 1 | On Off On
+no policies            | {"policies":{"JE.FullColorPrint":"ON"}}                                      | 0 | Off Off Off
+a list                 | [{"Policies":{}}]                                                            | 0 | Off Off Off
+cut off                | {"Policies":{"JE.FullColorPrint":"ON"                                        | 0 | Off Off Off
+no JSON                | INVALID_USER_NAME_OR_PASSWORD                                                | 0 | Off Off Off
+)");
+    for (const char *sign : {"{", "["})
+        addRow(sign, QString(sign).repeated(10 * megabyte), QString("0"), QString("Off Off Off"));
+}
+
+void TestPolicyClient::policies()
+{
+    QFETCH(QString, body);
+    Policies policies{{"FKPColorMode", "On"}, {"FKPLeanprint", "Off"}, {"FKPDuplex", "On"}};
+    QTEST(QString::number(PolicyReply::parsePolicies(body, &policies)), "accepted");
+    QCOMPARE(policies.size(), 3);
+    QTEST(policies["FKPColorMode"] + ' ' + policies["FKPLeanprint"] + ' ' + policies["FKPDuplex"],
+          "after");
+}
+
+void TestPolicyClient::reports_data()
+{
+    // How the report begins when the user has pressed Verify, and when not.
+    addRows({"body", "asked", "silent"}, R"(
+accepted                     | {"Policies":{}}                              | Server and     |
+refused, as text             | INVALID_USER_NAME_OR_PASSWORD                | Login failed.  | Login failed.
+refused, as JSON             | {"e":"INVALID_USER_NAME_OR_PASSWORD"}        | Server and     | Login failed.
+may not print                | {"Policies":{"JE.MonoPrint":"ON"}}           | You do         | You do
+may not print, with blanks   | {"JE.MonoPrint": "ON"}                       | Server and     |
+refused and may not print    | INVALID_USER_NAME_OR_PASSWORD "JE.MonoPrint":"ON" | You do    | You do
+nonsense                     | <html>                                       | An unspecified |
+)");
+}
+
+void TestPolicyClient::reports()
+{
+    QFETCH(QString, body);
+    const auto firstWords = [&](bool asked) {
+        return PolicyReply::report(body, asked).section(' ', 0, 1);
+    };
+    QTEST(firstWords(true), "asked");
+    QTEST(firstWords(false), "silent");
+}
+
+static const FunctionTests::Entry<TestPolicyClient> entry;
+
+#include "policyclient.moc"
