@@ -1,17 +1,21 @@
 #!/usr/bin/env bash
-# Runs tst_privileged: the panel with the real sudo and su. Only root can, since it takes a user
+# Plays privileged.case: the panel with the real sudo and su. Only root can, since it takes a user
 # with a password, and sudo and su work in no sandbox that an ordinary user can make.
 #
-#   run-privileged.sh BUILD [ARGUMENT...]     BUILD: a build folder; arguments go to the test
+#   run-privileged.sh BUILD [ARGUMENT...]     BUILD: a build folder; arguments go to pressdesk-play
 #
 # The machine stays as it is: everything happens in mount, process and network namespaces with an
-# /etc, /run, /usr/local/bin and /usr/share/brixola of their own, in memory, which end with the test.
+# /etc, /run, /tmp, /usr/local/bin and /usr/share/brixola of their own, in memory, which end with
+# the test.
 set -eu
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd -P)
 checkout=$(cd "$here/../.." && pwd -P)
-user=pressdesk-test
+# The player knows this user's folders, and where the scheduler's socket and files are.
+user=tester
 uid=21007
+server=/tmp/cups
+dir=/tmp/privileged
 
 fail()
 {
@@ -51,18 +55,17 @@ cover_usr_share()
     mount --bind "$dir/brixola" /usr/share/brixola
 }
 
-# A user who may become root through sudo, with a password of its own, and one for root.
+# A user who may become root through sudo, with a password of its own, and one for root. Nobody but
+# the panel can use them, so they may be known.
 add_accounts()
 {
-    local etc=$1 hash
+    local etc=$1
     sed -i "/^$user:/d" "$etc/passwd" "$etc/shadow" "$etc/group"
     echo "$user:x:$uid:$uid:Press Desk test:$dir/home:/bin/sh" >>"$etc/passwd"
     echo "$user:x:$uid:" >>"$etc/group"
-    hash=$(openssl passwd -6 "$PRESSDESK_USER_PASSWORD")
-    echo "$user:$hash:19000:0:99999:7:::" >>"$etc/shadow"
-    hash=$(openssl passwd -6 "$PRESSDESK_ROOT_PASSWORD")
+    echo "$user:$(openssl passwd -6 users):19000:0:99999:7:::" >>"$etc/shadow"
     sed -i '/^root:/d' "$etc/shadow"
-    echo "root:$hash:19000:0:99999:7:::" >>"$etc/shadow"
+    echo "root:$(openssl passwd -6 roots):19000:0:99999:7:::" >>"$etc/shadow"
     mkdir -p "$etc/sudoers.d"
     echo "$user ALL=(ALL:ALL) ALL" >"$etc/sudoers.d/$user"
     chmod 0440 "$etc/sudoers.d/$user"
@@ -72,10 +75,13 @@ add_accounts()
 
 lay_files()
 {
+    mkdir "$dir"
     cp -a /etc "$dir/etc"
     rm -rf "$dir/etc/cups"
     mkdir -p "$dir/etc/cups/ppd" "$dir/home" "$dir/bin" "$dir/run" "$dir/sudo"
     add_accounts "$dir/etc"
+    # Root gets none of the user's environment.
+    echo "ServerName $server/cups.sock" >"$dir/etc/cups/client.conf"
     install -m 755 "$checkout/demo/bixPPDWrite_F" "$dir/bin"
     # The scheduler is the user's, and so are its folders.
     chown -R "$uid:$uid" "$dir/etc/cups" "$dir/home"
@@ -95,41 +101,34 @@ as_user()
     setpriv --reuid "$uid" --regid "$uid" --clear-groups "$@"
 }
 
-run_test()
+play()
 {
-    local test=$build/tests/tst_privileged
-    [ -x "$test" ] || fail "no $test"
-    as_user test -x "$test" || fail "only root can reach $test"
-    mount -t tmpfs -o mode=755 tmpfs "$dir"
+    local player=$build/tests/player/pressdesk-play
+    mount -t tmpfs -o mode=1777 tmpfs /tmp
+    as_user test -x "$player" || fail "only root can reach $player"
     lay_files
     cover_machine
     ip link set lo up 2>/dev/null || true
     # Queue names are read from /etc/cups/ppd, so the scheduler's folder has to be that one.
     as_user env --ignore-environment PATH=/usr/local/bin:/usr/bin:/bin \
         LANG=C.UTF-8 HOME="$dir/home" USER="$user" LOGNAME="$user" PRESSDESK_SANDBOX="$dir" \
-        PRESSDESK_USER_PASSWORD="$PRESSDESK_USER_PASSWORD" \
-        PRESSDESK_ROOT_PASSWORD="$PRESSDESK_ROOT_PASSWORD" QT_HASH_SEED=0 "$test" "$@"
+        QT_HASH_SEED=0 "$checkout/demo/printserver.sh" serve "$server" "$player" "$@" \
+        "$here/privileged.case"
 }
 
 [ $# -ge 1 ] || fail "usage: run-privileged.sh BUILD [ARGUMENT...]"
 [ "$(id -u)" -eq 0 ] || fail "only root can lay out what this test needs"
-for tool in unshare setpriv sudo su openssl cupsd Xvfb; do
+for tool in unshare setpriv sudo su openssl cupsd; do
     command -v "$tool" >/dev/null || fail "$tool is missing"
 done
 
 if [ "${1:-}" != --inside ]; then
     build=$(cd "$1" && pwd -P)
     shift
-    dir=$(mktemp -d "${TMPDIR:-/tmp}/privileged.XXXXXX")
-    trap 'rmdir "$dir"' EXIT
-    PRESSDESK_USER_PASSWORD=$(openssl rand -hex 8)
-    PRESSDESK_ROOT_PASSWORD=$(openssl rand -hex 8)
-    export PRESSDESK_USER_PASSWORD PRESSDESK_ROOT_PASSWORD
-    unshare --mount --propagation private --net --pid --fork --kill-child --mount-proc \
-        "$here/run-privileged.sh" --inside "$dir" "$build" "$@"
+    exec unshare --mount --propagation private --net --pid --fork --kill-child --mount-proc \
+        "$here/run-privileged.sh" --inside "$build" "$@"
 else
-    dir=$2
-    build=$3
-    shift 3
-    run_test "$@"
+    build=$2
+    shift 2
+    play "$@"
 fi
