@@ -24,12 +24,12 @@ constexpr int descriptionWidth = 142;
 
 AccountListDialog::AccountListDialog(QWidget *page)
     : QDialog(page)
-    , buttonBox(named(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this),
-                      "butBoxCustomAccountID"))
     , table(named(new QTableWidget(this), "tblCustomAccountID"))
     , newButton(named(new QPushButton(tr("New"), this), "butNewCustomAccountID"))
     , editButton(named(new QPushButton(tr("Edit"), this), "butEditCustomAccountID"))
     , deleteButton(named(new QPushButton(tr("Delete"), this), "butDeleteCustomAccountID"))
+    , buttonBox(named(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this),
+                      "butBoxCustomAccountID"))
     , editDialog(new AccountEditDialog(this))
 {
     setWindowTitle(tr("Account ID"));

@@ -22,8 +22,8 @@ public:
     void showFor(const Accounts &accounts);
     /// The copy as it stands.
     const Accounts &accounts() const { return tempAccounts; }
-
-    QDialogButtonBox *buttonBox; ///< its signals are the page's to connect
+    /// OK and Cancel, whose signals are the page's to connect.
+    const QDialogButtonBox *buttons() const { return buttonBox; }
 
 public slots:
     /// Fills the table anew, in the order that the user chose by its header.
@@ -56,10 +56,12 @@ private:
     QString currentText(Column column) const;
     void showError(const QString &text);
 
+    // Made in this order: the first gets the focus.
     QTableWidget *table;
     QPushButton *newButton;
     QPushButton *editButton;
     QPushButton *deleteButton;
+    QDialogButtonBox *buttonBox;
     AccountEditDialog *editDialog;
 
     Accounts tempAccounts;

@@ -75,7 +75,7 @@ void JobTab::connectAccountList()
             &AccountListDialog::checkCustomIDButtonStates);
     connect(accountList, &AccountListDialog::accountDeleted, this, &JobTab::refreshAccountCombo);
 
-    const QDialogButtonBox *buttons = accountList->buttonBox;
+    const QDialogButtonBox *buttons = accountList->buttons();
     connect(buttons, &QDialogButtonBox::accepted, this, &JobTab::saveTempAccountIDs);
     connect(buttons, &QDialogButtonBox::accepted, dialog, &PanelDialog::setConstraints,
             Qt::UniqueConnection);
