@@ -35,7 +35,7 @@ trailing dot                      | jo@x.y.               | format
 )");
     const QString longName(120, 'n');
     addRow("quote behind the limit", longName + "@host.y 12\"", "double quote");
-    addRow("as long as can be", longName + "@host.yy", "none");
+    addRow("dot behind the limit", longName + "@host.yy.", "none");
     addRow("cut at its last dot", longName + "@hosts..y", "format");
     addRow("at behind the limit", QString(200, 'n') + "@x.y", "format");
     addRow("limit within a letter", longName + QStringLiteral("@xx.yyyé"), "not ASCII");
