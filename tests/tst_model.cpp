@@ -129,20 +129,12 @@ void TestModel::selecting_data()
     addRows({"options", "rules", "selected", "blocked"}, R"(
 stronger side blocks                  | A 7, B 8        | A=y B=x          | A=y             | B=x
 weaker side posts nothing             | A 7, B 8        | A=y B=x          | B=x             |
-another value lifts the block         | A 7, B 8        | A=y B=x          | A=y A=x         |
-a blocked value can be selected       | A 7, B 8        | A=y B=x          | A=y B=x         | B=x
 equal ranks block each other          | A 7, B 7        | A=x B=x          | A=x B=x         | A=x B=x
 two blockers, one of them goes        | A 1, B 2, C 3   | A=x C=x, B=x C=x | A=x B=x A=y     | C=x
 unknown value makes no rule           | A 7, B 8        | A=y B=q          | A=y             |
 a rule on selected values sleeps      | A 1, B 2        | A=x B=x          | A=x B=x !       |
 until one of them is selected again   | A 1, B 2        | A=x B=x          | A=x B=x ! A=x   | B=x
 two conditions                        | A 1, B 2, C 3   | C=x A=x B=x      | A=x B=x         | C=x
-in the other order                    | A 1, B 2, C 3   | C=x A=x B=x      | B=x A=x         | C=x
-one condition is not enough           | A 1, B 2, C 3   | C=x A=x B=x      | A=x C=x         |
-a condition goes                      | A 1, B 2, C 3   | C=x A=x B=x      | A=x B=x A=y     |
-a condition comes back                | A 1, B 2, C 3   | C=x A=x B=x      | A=x B=x A=y A=x | C=x
-target selected first                 | A 1, B 2, C 3   | C=x A=x B=x      | C=x A=x B=x     | C=x
-its going lifts nothing               | A 1, B 2, C 3   | C=x A=x B=x      | C=x A=x B=x C=y | C=x
 of equal ranks the second is target   | A 9, B 9, C 9   | C=x A=x B=x      | C=x             | A=x
 and the third has no part             | A 9, B 9, C 9   | C=x A=x B=x      | A=x B=x         |
 two known values make no rule         | A 1, B 2, C 3   | A=x B=x C=q      | A=x B=x         |
