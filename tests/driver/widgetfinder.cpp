@@ -43,10 +43,10 @@ QWidget *find(const QString &word, bool visible)
     if (word.isEmpty())
         return nullptr;
     const QList<QWidget *> windows = windowsFrontToBack();
-    for (const auto matches : {hasName, isStandardButton, hasText, hasClass}) {
-        for (QWidget *window : windows) {
-            QList<QWidget *> candidates = window->findChildren<QWidget *>();
-            candidates.prepend(window);
+    for (QWidget *window : windows) {
+        QList<QWidget *> candidates = window->findChildren<QWidget *>();
+        candidates.prepend(window);
+        for (const auto matches : {hasName, isStandardButton, hasText, hasClass}) {
             for (QWidget *widget : qAsConst(candidates))
                 if (widget->window() == window && widget->isVisible() == visible &&
                     matches(widget, word))

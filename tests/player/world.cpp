@@ -180,7 +180,8 @@ QMap<QString, QStringList> World::files() const
                       QDirIterator::Subdirectories);
     while (each.hasNext()) {
         const QString path = each.next();
-        if (!path.contains("/ppd6/"))
+        // A case may have made a pipe.
+        if (each.fileInfo().isFile() && !path.contains("/ppd6/"))
             files.insert(QDir(userFolder).relativeFilePath(path), linesOf(path));
     }
     for (const QString &line : linesOf(QDir::home().filePath(".cups/lpoptions"))) {
