@@ -1,0 +1,125 @@
+// The settings files: what is read from them, and what is left in them.
+
+#include "storage/settingsfile.h"
+
+#include "functiontests.h"
+#include "model/optionstore.h"
+#include "support/testhelpers.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
+class TestSettingsFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        directory = std::make_unique<QTemporaryDir>();
+        userDir = directory->path() + "/user/";
+        currentCfgPath = directory->filePath("printer.cfg");
+    }
+    void valuesOfKey_data();
+    void valuesOfKey();
+    void written();
+    void directoryIsMadeWithItsParents();
+    void updated_data();
+    void updated();
+
+private:
+    std::unique_ptr<QTemporaryDir> directory;
+};
+
+void TestSettingsFile::valuesOfKey_data()
+{
+    // "/" stands for a line's end in the file, and is between the values.
+    addRows({"file", "key", "values"}, R"(
+the first one wins                    | M=b/Other=1/M=a/M=/M=b/  | M        | b/a//b
+equals sign in the value              | Text=a=b==c/             | Text     | a=b==c
+last line without an end              | A=1/B=2                  | B        | 2
+keys are case-sensitive               | pagesize=A4/             | PageSize |
+a longer key is another key           | PageSizeX=A3/PageSize=A4 | PageSize | A4
+an empty value ends the search        | A=/A=2/                  | A        | /2
+a line without equals has no value    | A/A=2/                   | A        | /2
+letters beyond ASCII                  | Name=Größe ✓/            | Name     | Größe ✓
+)");
+    addRow("blanks belong to key and value", QString(" A =1/A= 2 "), QString("A"), QString(" 2 "));
+    // Longer lines are taken apart.
+    addRow("a line of 1030 characters", QString(1023, 'x') + "=A=1/", QString("A"), QString("1"));
+    addRow("a line of a megabyte", "A=" + QString(1 << 20, 'y') + "/B=2/", QString("B"),
+           QString("2"));
+}
+
+void TestSettingsFile::valuesOfKey()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, key);
+    QVERIFY(setFileText(currentCfgPath, file.replace('/', '\n').toUtf8()));
+    const QStringList values = readSettingValues(key);
+    QTEST(values.join('/'), "values");
+    QCOMPARE(readSetting(key), values.value(0));
+    QCOMPARE(readSetting(key).isNull(), values.value(0).isEmpty());
+}
+
+void TestSettingsFile::written()
+{
+    const QString path = cfgPath("Office C3");
+    QVERIFY(!cfgExists("Office C3"));
+    writeCfg(path, {{"Name", "from the option"}, {"Name", "Größe = 1"}}, true);
+    QVERIFY(cfgExists("Office C3"));
+    // The last one inserted comes first, where readers stop.
+    QCOMPARE(fileText(path), QByteArray("Name=Größe = 1\nName=from the option\n"));
+    writeProfile(path, {{"Empty", ""}}, false, "Two lines\\nof text");
+    QCOMPARE(fileText(path),
+             QByteArray("[Profile]\n[]\nProfileDescription=Two lines\\nof text\nEmpty=\n"));
+    OptionStore store;
+    store.setModelName("Brixola PX-4500");
+    currentStore = &store;
+    writeCfg(path, {{"A", "1"}}, false);
+    currentStore = nullptr;
+    QCOMPARE(fileText(path), QByteArray("[Profile]\n[Brixola PX-4500]\nA=1\n"));
+}
+
+void TestSettingsFile::directoryIsMadeWithItsParents()
+{
+    userDir = directory->path() + "/a/b/c/";
+    const mode_t before = umask(022);
+    ensureUserDir();
+    umask(before);
+    for (const char *path : {"a", "a/b", "a/b/c"}) {
+        struct stat status;
+        QCOMPARE(stat(QFile::encodeName(directory->filePath(path)), &status), 0);
+        QCOMPARE(status.st_mode & 07777U, 0755U);
+    }
+}
+
+void TestSettingsFile::updated_data()
+{
+    addRows({"before", "after"}, R"(
+replaced in place                 | T=1/FKP_server=old/FKP_port=1/     | T=1/FKP_server=new/FKP_port=1/
+added at the end                  | T=1/                               | T=1/FKP_server=new/
+every line with the text          | Note=see FKP_server/XFKP_server2=1 | FKP_server=new/FKP_server=new/
+empty file                        |                                    | FKP_server=new/
+no file                           | -                                  | -
+)");
+}
+
+void TestSettingsFile::updated()
+{
+    QFETCH(QString, before);
+    const bool found = before != "-";
+    const QString path = userDirectory() + "Settings";
+    QDir(userDirectory()).removeRecursively();
+    if (found)
+        QVERIFY(setFileText(settingsPath(), before.replace('/', '\n').toUtf8()));
+    QCOMPARE(updateSetting("FKP_server", "new"), found);
+    QTEST(found ? QString(fileText(path).replace('\n', '/')) : "-", "after");
+    // The copy is begun even when there is nothing to copy.
+    QCOMPARE(QFile::exists(path + "_tmp"), !found);
+}
+
+static const FunctionTests::Entry<TestSettingsFile> entry;
+#include "settingsfile.moc"
