@@ -55,7 +55,7 @@ JobAccounting::JobAccounting(QWidget *page)
     for (QWidget *dependent :
          std::initializer_list<QWidget *>{modeBox, idEdit, error, selectLabel, idBox, listButton})
         button->addDependent(dependent, Sentinel::noDefault);
-    setTexts();
+    JobAccounting::setTexts();
 }
 
 void JobAccounting::setTexts()

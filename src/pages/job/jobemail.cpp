@@ -40,7 +40,7 @@ JobEmail::JobEmail(QWidget *page)
     , error(makeErrorLabel(page))
 {
     edit->setValidator(new QRegExpValidator(QRegExp(allowed), edit));
-    setTexts();
+    JobEmail::setTexts();
 }
 
 void JobEmail::setTexts()

@@ -45,7 +45,7 @@ JobLogin::JobLogin(QWidget *page)
     for (QWidget *dependent :
          std::initializer_list<QWidget *>{nameLabel, nameEdit, passwordLabel, passwordEdit})
         button->addDependent(dependent, Sentinel::noDefault);
-    setTexts();
+    JobLogin::setTexts();
 }
 
 void JobLogin::setTexts()

@@ -49,7 +49,7 @@ JobName::JobName(QWidget *page)
     edit->setValidator(
         new QRegExpValidator(QRegExp(QLatin1String(JobTexts::nameOfAtMost64)), edit));
     overwriteBox->setMinimumWidth(200);
-    setTexts();
+    JobName::setTexts();
 }
 
 void JobName::setTexts()

@@ -70,7 +70,7 @@ JobStorage::JobStorage(QWidget *page)
     for (QWidget *dependent : std::initializer_list<QWidget *>{
              codeLabel, codeEdit, numberLabel, numberEdit, error, passwordLabel, passwordEdit})
         button->addDependent(dependent, Sentinel::noDefault);
-    setTexts();
+    JobStorage::setTexts();
 }
 
 void JobStorage::setTexts()
