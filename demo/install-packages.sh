@@ -11,7 +11,7 @@ packages=(
     # certificates for a server, and one font, so that measured text widths are the same everywhere
     cups-daemon cups-client bubblewrap xvfb sudo openssl fonts-dejavu-core
     # benchmarks and checks
-    libbenchmark-dev clang-format clang-tidy
+    libbenchmark-dev clang-format clang-tidy python3
 )
 # Command and package of what may well come from elsewhere than a package.
 commands=(g++:g++ cmake:cmake git:git)
