@@ -151,6 +151,17 @@ Reloading list now.</translation>
     </message>
 </context>
 <context>
+    <name>ColorGroup</name>
+    <message>
+        <source>Full color</source>
+        <translation>Full color</translation>
+    </message>
+    <message>
+        <source>Black &amp; white</source>
+        <translation>Black &amp; white</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -345,14 +356,6 @@ Credentials and policies will be checked again during printing.
         <translation>Color</translation>
     </message>
     <message>
-        <source>Full color</source>
-        <translation>Full color</translation>
-    </message>
-    <message>
-        <source>Black &amp; white</source>
-        <translation>Black &amp; white</translation>
-    </message>
-    <message>
         <source>Print size</source>
         <translation>Print size</translation>
     </message>
@@ -402,14 +405,6 @@ Credentials and policies will be checked again during printing.
     <message>
         <source>On</source>
         <translation>On</translation>
-    </message>
-    <message>
-        <source>Full color</source>
-        <translation>Full color</translation>
-    </message>
-    <message>
-        <source>Black &amp; white</source>
-        <translation>Black &amp; white</translation>
     </message>
     <message>
         <source>Imaging</source>

@@ -151,6 +151,17 @@ La liste va être rechargée.</translation>
     </message>
 </context>
 <context>
+    <name>ColorGroup</name>
+    <message>
+        <source>Full color</source>
+        <translation>Couleurs</translation>
+    </message>
+    <message>
+        <source>Black &amp; white</source>
+        <translation>Noir et blanc</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -345,14 +356,6 @@ Les informations de connexion et les règles seront de nouveau vérifiées lors 
         <translation>Couleur</translation>
     </message>
     <message>
-        <source>Full color</source>
-        <translation>Couleurs</translation>
-    </message>
-    <message>
-        <source>Black &amp; white</source>
-        <translation>Noir et blanc</translation>
-    </message>
-    <message>
         <source>Print size</source>
         <translation>Format d&apos;impression</translation>
     </message>
@@ -402,14 +405,6 @@ Les informations de connexion et les règles seront de nouveau vérifiées lors 
     <message>
         <source>On</source>
         <translation>Activé</translation>
-    </message>
-    <message>
-        <source>Full color</source>
-        <translation>Couleurs</translation>
-    </message>
-    <message>
-        <source>Black &amp; white</source>
-        <translation>Noir et blanc</translation>
     </message>
     <message>
         <source>Imaging</source>

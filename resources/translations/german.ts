@@ -151,6 +151,17 @@ Die Liste wird neu geladen.</translation>
     </message>
 </context>
 <context>
+    <name>ColorGroup</name>
+    <message>
+        <source>Full color</source>
+        <translation>Vollfarbe</translation>
+    </message>
+    <message>
+        <source>Black &amp; white</source>
+        <translation>Schwarzweiß</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -345,14 +356,6 @@ Anmeldedaten und Richtlinien werden beim Drucken erneut geprüft.
         <translation>Farbe</translation>
     </message>
     <message>
-        <source>Full color</source>
-        <translation>Vollfarbe</translation>
-    </message>
-    <message>
-        <source>Black &amp; white</source>
-        <translation>Schwarzweiß</translation>
-    </message>
-    <message>
         <source>Print size</source>
         <translation>Druckformat</translation>
     </message>
@@ -402,14 +405,6 @@ Anmeldedaten und Richtlinien werden beim Drucken erneut geprüft.
     <message>
         <source>On</source>
         <translation>Ein</translation>
-    </message>
-    <message>
-        <source>Full color</source>
-        <translation>Vollfarbe</translation>
-    </message>
-    <message>
-        <source>Black &amp; white</source>
-        <translation>Schwarzweiß</translation>
     </message>
     <message>
         <source>Imaging</source>

@@ -151,6 +151,17 @@ L&apos;elenco viene ricaricato.</translation>
     </message>
 </context>
 <context>
+    <name>ColorGroup</name>
+    <message>
+        <source>Full color</source>
+        <translation>A colori</translation>
+    </message>
+    <message>
+        <source>Black &amp; white</source>
+        <translation>Bianco e nero</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -345,14 +356,6 @@ Le credenziali e i criteri verranno verificati di nuovo durante la stampa.
         <translation>Colore</translation>
     </message>
     <message>
-        <source>Full color</source>
-        <translation>A colori</translation>
-    </message>
-    <message>
-        <source>Black &amp; white</source>
-        <translation>Bianco e nero</translation>
-    </message>
-    <message>
         <source>Print size</source>
         <translation>Formato di stampa</translation>
     </message>
@@ -402,14 +405,6 @@ Le credenziali e i criteri verranno verificati di nuovo durante la stampa.
     <message>
         <source>On</source>
         <translation>Attivato</translation>
-    </message>
-    <message>
-        <source>Full color</source>
-        <translation>A colori</translation>
-    </message>
-    <message>
-        <source>Black &amp; white</source>
-        <translation>Bianco e nero</translation>
     </message>
     <message>
         <source>Imaging</source>

@@ -151,6 +151,17 @@ A lista vai ser recarregada.</translation>
     </message>
 </context>
 <context>
+    <name>ColorGroup</name>
+    <message>
+        <source>Full color</source>
+        <translation>Em cores</translation>
+    </message>
+    <message>
+        <source>Black &amp; white</source>
+        <translation>Preto e branco</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -345,14 +356,6 @@ As credenciais e as políticas serão verificadas novamente durante a impressão
         <translation>Cor</translation>
     </message>
     <message>
-        <source>Full color</source>
-        <translation>Em cores</translation>
-    </message>
-    <message>
-        <source>Black &amp; white</source>
-        <translation>Preto e branco</translation>
-    </message>
-    <message>
         <source>Print size</source>
         <translation>Tamanho de impressão</translation>
     </message>
@@ -402,14 +405,6 @@ As credenciais e as políticas serão verificadas novamente durante a impressão
     <message>
         <source>On</source>
         <translation>Ativado</translation>
-    </message>
-    <message>
-        <source>Full color</source>
-        <translation>Em cores</translation>
-    </message>
-    <message>
-        <source>Black &amp; white</source>
-        <translation>Preto e branco</translation>
     </message>
     <message>
         <source>Imaging</source>

@@ -151,6 +151,17 @@ Se volverá a cargar la lista.</translation>
     </message>
 </context>
 <context>
+    <name>ColorGroup</name>
+    <message>
+        <source>Full color</source>
+        <translation>A todo color</translation>
+    </message>
+    <message>
+        <source>Black &amp; white</source>
+        <translation>Blanco y negro</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -345,14 +356,6 @@ Las credenciales y las directivas se volverán a comprobar durante la impresión
         <translation>Color</translation>
     </message>
     <message>
-        <source>Full color</source>
-        <translation>A todo color</translation>
-    </message>
-    <message>
-        <source>Black &amp; white</source>
-        <translation>Blanco y negro</translation>
-    </message>
-    <message>
         <source>Print size</source>
         <translation>Tamaño de impresión</translation>
     </message>
@@ -402,14 +405,6 @@ Las credenciales y las directivas se volverán a comprobar durante la impresión
     <message>
         <source>On</source>
         <translation>Activado</translation>
-    </message>
-    <message>
-        <source>Full color</source>
-        <translation>A todo color</translation>
-    </message>
-    <message>
-        <source>Black &amp; white</source>
-        <translation>Blanco y negro</translation>
     </message>
     <message>
         <source>Imaging</source>

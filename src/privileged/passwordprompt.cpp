@@ -1,6 +1,7 @@
 #include "privileged/passwordprompt.h"
 
 #include "model/optionstore.h"
+#include "pages/base/pagewidgets.h"
 #include "pages/base/paneldialog.h"
 #include "privileged/ppdwriter.h"
 #include "widgets/comboboxex.h"
@@ -40,8 +41,7 @@ PasswordPrompt::PasswordPrompt(PanelDialog *owner, const QString &ppdArguments)
 {
     owner->closeAfterApply = false;
     setWindowTitle(tr("Password Prompt"));
-    setWindowFlags(windowFlags() &
-                   ~(Qt::WindowMinMaxButtonsHint | Qt::WindowContextHelpButtonHint));
+    PageWidgets::simplifyTitleBar(this);
     methodCombo->setAccessibleName(QStringLiteral("cmbBxMethod"));
     methodCombo->addItems({sudoMethod, suMethod});
     passwordEdit->setAccessibleName(QStringLiteral("lnEditRootPassword"));

@@ -1,5 +1,6 @@
 #include "profiles/profiledialog.h"
 
+#include "pages/base/pagewidgets.h"
 #include "pages/base/paneldialog.h"
 #include "profiles/profileeditdialog.h"
 #include "profiles/profilereader.h"
@@ -47,8 +48,7 @@ ProfileDialog::ProfileDialog(PanelDialog *dialog, SettingsSource *source)
     , editDialog(new ProfileEditDialog(this))
 {
     setWindowTitle(tr("Profiles"));
-    setWindowFlags(windowFlags() &
-                   ~(Qt::WindowMinMaxButtonsHint | Qt::WindowContextHelpButtonHint));
+    PageWidgets::simplifyTitleBar(this);
     setWindowModality(Qt::WindowModal);
     saveDialog->setWindowTitle(tr("Save Profiles"));
     editDialog->setWindowTitle(tr("Edit Profile"));

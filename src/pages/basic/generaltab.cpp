@@ -3,6 +3,7 @@
 #include "model/boption.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
+#include "pages/base/colorgroup.h"
 #include "pages/base/pagelayout.h"
 #include "pages/base/pagewidgets.h"
 #include "pages/base/paneldialog.h"
@@ -20,7 +21,6 @@ using PageWidgets::withColon;
 namespace {
 
 const QLatin1String paperKeyword("PageSize");
-const QLatin1String colorKeyword("ColorModel");
 
 // PPD keywords that describe the paper too; they always follow the page size.
 constexpr const char *paperAliases[] = {"PageRegion", "ImageableArea", "PaperDimension",
@@ -61,8 +61,7 @@ void GeneralTab::createWidgets()
     duplexGroup->addButton(tr("Short edge"), QStringLiteral(":/icons/duplex-short"));
 
     colorGroup_ = addGroup("ColorModel", QStringLiteral("butGroupColorModelGeneral"), tr("Color"));
-    colorGroup_->addButton(tr("Full color"), QStringLiteral(":/icons/color"));
-    colorGroup_->addButton(tr("Black & white"), QStringLiteral(":/icons/monochrome"));
+    ColorGroup::addButtons(colorGroup_);
     colorGroup_->setFixedWidth(200);
     colorGroup_->setLabelEnabled(true);
 }
@@ -128,7 +127,7 @@ void GeneralTab::reload()
     loadOptions();
     applyAllWidgets();
     enableOptions();
-    fixColor();
+    ColorGroup::showWithoutChoice(colorGroup_, findOption(ColorGroup::keyword));
     setBoundSignalsBlocked(false);
 }
 
@@ -154,31 +153,11 @@ void GeneralTab::addComboBoxItems(ComboBoxEx *box, bOption *option)
     }
 }
 
-// Colour on printers that have nothing to choose
-
-void GeneralTab::showSingleColor()
-{
-    colorGroup_->setButtonByValue(tr("Black & white"));
-    colorGroup_->setGroupEnabled(false);
-    colorGroup_->setLabelEnabled(true);
-}
-
-void GeneralTab::fixColor()
-{
-    const bOption *color = findOption(colorKeyword);
-    if (!color) {
-        colorGroup_->setButtonByValue(tr("Black & white"));
-        colorGroup_->setLabelEnabled(true);
-    } else if (color->choiceCount() == 1) {
-        showSingleColor();
-    }
-}
-
 bool GeneralTab::enableOptionsForButtonGroup(BixButtonGroup *group, bOption *option)
 {
     const bool changed = Tab::enableOptionsForButtonGroup(group, option);
-    if (option->key() == colorKeyword && option->choiceCount() == 1)
-        showSingleColor();
+    if (option->key() == ColorGroup::keyword)
+        ColorGroup::showWithoutChoice(group, option);
     return changed;
 }
 

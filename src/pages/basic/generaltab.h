@@ -32,8 +32,6 @@ private:
     BixButtonGroup *addGroup(const char *keyword, const QString &accessibleName,
                              const QString &title);
     void createLayout();
-    void showSingleColor();
-    void fixColor();
 
     QGridLayout *paperGrid;
     BixButtonGroup *collateGroup;

@@ -5,15 +5,12 @@
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "pages/base/pagewidgets.h"
-#include "pages/imaging/adjustmentwidgets.h"
+#include "pages/imaging/adjustmentrows.h"
 #include "storage/settingsfile.h"
 #include "widgets/comboboxex.h"
 
 #include <QCheckBox>
-#include <QDialogButtonBox>
-#include <QGridLayout>
 #include <QGroupBox>
-#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -23,8 +20,8 @@
 
 #include <algorithm>
 
+using namespace AdjustmentRows;
 using namespace AdjustmentValues;
-using AdjustmentWidgets::Limits;
 using PageWidgets::withColon;
 
 namespace {
@@ -41,54 +38,6 @@ const QLatin1String balanceSpace("1");
 
 constexpr double badValue = 999; // stands for a text that makes no sense
 constexpr int masterScale = 10;
-
-/// What happens to the other rows when one changes.
-enum Kind : unsigned
-{
-    Master = 1, ///< turns all hues at once
-    Hue = 2,    ///< one of six
-    Tone = 4,
-    Level = 8 ///< colour balance
-};
-
-struct ValueRow
-{
-    const char *key;
-    Kind kind;
-    int gridRow;      ///< the hues share one place
-    const char *text; ///< of a level, the colour at its left end
-    const char *rightText = nullptr;
-};
-
-// In the order in which the values are loaded, shown and stored.
-constexpr ValueRow valueRows[] = {
-    {"CaHueMaster", Master, 2, QT_TRANSLATE_NOOP("adjustmentDialog", "Master")},
-    {"CaHr", Hue, 2, QT_TRANSLATE_NOOP("adjustmentDialog", "Red")},
-    {"CaHy", Hue, 2, QT_TRANSLATE_NOOP("adjustmentDialog", "Yellow")},
-    {"CaHg", Hue, 2, QT_TRANSLATE_NOOP("adjustmentDialog", "Green")},
-    {"CaHc", Hue, 2, QT_TRANSLATE_NOOP("adjustmentDialog", "Cyan")},
-    {"CaHb", Hue, 2, QT_TRANSLATE_NOOP("adjustmentDialog", "Blue")},
-    {"CaHm", Hue, 2, QT_TRANSLATE_NOOP("adjustmentDialog", "Magenta")},
-    {"Cast", Tone, 4, QT_TRANSLATE_NOOP("adjustmentDialog", "Saturation")},
-    {"Cabt", Tone, 6, QT_TRANSLATE_NOOP("adjustmentDialog", "Lightness")},
-    {"Cact", Tone, 8, QT_TRANSLATE_NOOP("adjustmentDialog", "Contrast")},
-    {"CaCR", Level, 0, QT_TRANSLATE_NOOP("adjustmentDialog", "Cyan"),
-     QT_TRANSLATE_NOOP("adjustmentDialog", "Red")},
-    {"CaMG", Level, 2, QT_TRANSLATE_NOOP("adjustmentDialog", "Magenta"),
-     QT_TRANSLATE_NOOP("adjustmentDialog", "Green")},
-    {"CaYB", Level, 4, QT_TRANSLATE_NOOP("adjustmentDialog", "Yellow"),
-     QT_TRANSLATE_NOOP("adjustmentDialog", "Blue")},
-};
-
-// Degrees of the colour circle.
-constexpr Limits masterLimits{180, 7, "-?(([0-9]|[0-9][0-9]|1[0-7][0-9])?)|180|-180"};
-// Ten steps to either side, in hundredths.
-constexpr Limits valueLimits{1000, 6, "-?([0-9])?(\\.([0-9]|[0-9][0-9]))?|10|-10"};
-
-QString keyOf(const ValueRow &row)
-{
-    return QLatin1String(row.key);
-}
 
 const bOption *findOption(const QString &keyword)
 {
@@ -129,57 +78,6 @@ adjustmentDialog::adjustmentDialog(QWidget *parent)
 
     connectForms();
     connectRows();
-}
-
-void adjustmentDialog::createRows()
-{
-    auto *modifyLabel = new QLabel(withColon(tr("Modify")), hueGroup);
-    modifyLabel->setBuddy(hueBox);
-    auto *hueGrid = new QGridLayout(hueGroup);
-    hueGrid->addWidget(modifyLabel, 0, 0);
-    hueGrid->addWidget(hueBox, 1, 0, 1, 3);
-    auto *levelGrid = new QGridLayout(levelGroup);
-
-    for (const ValueRow &row : valueRows) {
-        const bool isLevel = row.kind == Level;
-        QGroupBox *group = isLevel ? levelGroup : hueGroup;
-        QGridLayout *grid = isLevel ? levelGrid : hueGrid;
-        const QString text = tr(row.text);
-        const QString name = isLevel ? text + QStringLiteral(" - ") + tr(row.rightText) : text;
-        const AdjustmentWidgets::Row widgets = AdjustmentWidgets::makeRow(
-            group, name, row.kind == Master ? masterLimits : valueLimits);
-        auto *label = new QLabel(isLevel ? text : withColon(text), group);
-        AdjustmentWidgets::place(grid, row.gridRow, label, widgets);
-        if (isLevel)
-            grid->addWidget(new QLabel(tr(row.rightText), group), row.gridRow, 2, Qt::AlignRight);
-        else
-            labels.insert(keyOf(row), label);
-        sliders.insert(keyOf(row), widgets.slider);
-        lineEdits.insert(keyOf(row), widgets.edit);
-    }
-}
-
-void adjustmentDialog::createLayout()
-{
-    auto *picture = new QLabel(this);
-    picture->setPixmap(QIcon(QStringLiteral(":/icons/adjustment")).pixmap(50, 50));
-
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    const QPushButton *ok = buttons->button(QDialogButtonBox::Ok);
-    connect(ok, &QPushButton::clicked, this, &adjustmentDialog::saveSettings);
-    connect(ok, &QPushButton::clicked, this, &adjustmentDialog::close);
-    connect(buttons->button(QDialogButtonBox::Cancel), &QPushButton::clicked, this,
-            &adjustmentDialog::close);
-
-    auto *grid = new QGridLayout(this);
-    grid->setSizeConstraint(QLayout::SetFixedSize);
-    grid->addWidget(customBox, 0, 0, 1, 2);
-    grid->addWidget(picture, 1, 0, 2, 1);
-    grid->addWidget(hslButton, 1, 1);
-    grid->addWidget(balanceButton, 2, 1);
-    grid->addWidget(hueGroup, 3, 1);
-    grid->addWidget(levelGroup, 3, 1);
-    grid->addWidget(buttons, 4, 1);
 }
 
 void adjustmentDialog::connectForms()

@@ -47,8 +47,6 @@ private:
     void enableAdjustment();
     void loadLeanPrint();
     void loadResolutionFallback();
-    void loadColorFallback();
-    void showSingleColor();
 
     QGridLayout *qualityGrid;
     QGridLayout *colorGrid;

@@ -5,6 +5,7 @@
 #include "model/optionstore.h"
 #include "model/printqueues.h"
 #include "model/queueppd.h"
+#include "pages/base/errorlabel.h"
 #include "pages/base/paneldialog.h"
 #include "pages/printer/printertable.h"
 #include "storage/settingsfile.h"
@@ -71,7 +72,7 @@ void PrinterTab::createWidgets()
     rootWarning =
         new QLabel(tr("Root access is required to make changes to installable options"), this);
     rootWarning->setAccessibleName(QStringLiteral("lblRootWarning"));
-    styleRootWarning();
+    styleErrorLabel(rootWarning, 10);
     rootWarning->hide();
     auto *headerGrid = new QGridLayout;
     headerGrid->addWidget(installedHeader, 0, 0, 1, warningColumn, Qt::AlignLeft);
@@ -90,15 +91,6 @@ void PrinterTab::createWidgets()
     layout->addWidget(printerTable);
     layout->addLayout(headerGrid);
     layout->addWidget(scrollArea);
-}
-
-void PrinterTab::styleRootWarning()
-{
-    // A border in the colour of the page can't be seen.
-    rootWarning->setStyleSheet(
-        QStringLiteral("QLabel{color: red; font-family: Sans; font-size: 10px; border-width: 1px; "
-                       "border-color: %1; border-style: solid}")
-            .arg(palette().color(backgroundRole()).name()));
 }
 
 void PrinterTab::createTable()
@@ -200,7 +192,7 @@ void PrinterTab::retranslate()
     setHeaders();
     setTabName();
     fillStatusColumn();
-    styleRootWarning(); // the window has given the page its colours since it was made
+    styleErrorLabel(rootWarning, 10); // the window has given the page its colours since it was made
     rootWarning->setText(tr("Root access is required to make changes to installable options"));
     installedHeader->setText(tr("Installed options"));
     installedHeader->update();

@@ -54,7 +54,6 @@ public slots:
 
 private:
     void createTable();
-    void styleRootWarning();
     void setHeaders();
     void fillTable();
     void fillStatusColumn();

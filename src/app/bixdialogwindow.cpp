@@ -1,0 +1,153 @@
+#include "app/aboutdialog.h"
+#include "app/bixdialog.h"
+#include "app/settingscollector.h"
+#include "pages/basic/generaltab.h"
+#include "pages/finishing/finishingtab.h"
+#include "pages/imaging/imagingtab.h"
+#include "pages/job/jobtab.h"
+#include "pages/layout/booklettab.h"
+#include "pages/login/userlogintab.h"
+#include "pages/printer/printertab.h"
+#include "pages/publishing/publishingtab.h"
+#include "pages/watermark/watermarktab.h"
+#include "policy/fkptab.h"
+#include "profiles/profiledialog.h"
+#include "profiles/profilesavedialog.h"
+#include "widgets/bixtabwidget.h"
+
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTableWidget>
+
+// How the main window is put together, and how it looks.
+
+namespace {
+
+constexpr char tabBarStyle[] =
+    "QTabBar::tab {    background-color: rgba(0,0,0,127);   color: rgba(255,255,255, 255);   "
+    "width: 180px;   height: 49px;   padding: 0px;   border: 0px;   margin: 0px;} "
+    "QTabBar::icon{   margin-top: 10px;   margin-bottom: 10px;   margin-left: 7px;   "
+    "margin-right: 7px;}QTabBar::tab:selected{   background-color: rgba(255,60,60,255);   color: "
+    "rgba(255,255,255, 255);}QTabBar::tab:disabled{   width: 0;    height: 0;   margin: 0;   "
+    "padding: 0;   border: none;}QTabBar::scroller {   width: 0px;   padding: 0px;   border: 0px;  "
+    " margin: 0px;}";
+
+constexpr char tabWidgetStyle[] =
+    "QTabWidget::tab-bar {   left: -7px;   border: 0px;   padding: 0px;   margin: "
+    "0px;}QTabWidget::pane{   position: absolute;   left: -7px; ;}";
+
+void setBrush(QWidget *widget, QPalette::ColorRole role, const QBrush &brush)
+{
+    QPalette palette = widget->palette();
+    palette.setBrush(role, brush);
+    widget->setPalette(palette);
+}
+
+} // namespace
+
+void BixDialog::setBackground()
+{
+    // Through an icon, which finds the picture for the screen's scale factor.
+    setBrush(this, QPalette::Window, QIcon(QStringLiteral(":/icons/background")).pixmap(size()));
+}
+
+void BixDialog::createPages()
+{
+    // In tab order.
+    pages.append(printerTab = new PrinterTab(this));
+    pages.append(generalTab = new GeneralTab(this));
+    pages.append(new BookletTab(this));
+    pages.append(new FinishingTab(this));
+    pages.append(imagingTab = new ImagingTab(this));
+    pages.append(new PublishingTab(this));
+    pages.append(new JobTab(this));
+    pages.append(new WatermarkTab(this));
+    userLoginTab = new UserLoginTab(this);
+    userLoginTab->hide(); // or it would paint over the window
+    pages.append(new FKPTab(this));
+
+    aboutDialog = new AboutDialog(this);
+
+    connect(printerTab->table(), &QTableWidget::currentCellChanged, this,
+            &BixDialog::printerChanged);
+}
+
+void BixDialog::createButtons()
+{
+    saveAsButton = new QPushButton(tr("Save As..."), this);
+    profilesButton = new QPushButton(tr("Profiles") + QStringLiteral("..."), this);
+
+    buttonBox = new QDialogButtonBox(
+        QDialogButtonBox::Ok | QDialogButtonBox::Apply | QDialogButtonBox::Cancel, this);
+    buttonBox->setFocusPolicy(Qt::NoFocus);
+    connect(buttonBox, &QDialogButtonBox::accepted, this, &BixDialog::accept);
+    connect(buttonBox->button(QDialogButtonBox::Apply), &QPushButton::clicked, this,
+            &BixDialog::slotButtonApply);
+    connect(buttonBox, &QDialogButtonBox::rejected, this, &BixDialog::reject);
+    const QList<QAbstractButton *> boxButtons = buttonBox->buttons();
+    for (QAbstractButton *button : boxButtons) {
+        auto *pushButton = qobject_cast<QPushButton *>(button);
+        pushButton->setFocusPolicy(Qt::NoFocus);
+        pushButton->setAutoDefault(false);
+        pushButton->setDefault(false);
+    }
+
+    logoButton = new QPushButton(this);
+    logoButton->setAccessibleName(tr("About"));
+    logoButton->setIcon(QIcon(QStringLiteral(":/icons/logo")));
+    logoButton->setIconSize(QSize(170, 32));
+    // The style moves the picture to the left by half of its padding; from this width on it is
+    // whole.
+    logoButton->setMinimumWidth(320);
+    logoButton->setStyleSheet(QStringLiteral("padding-left: -150px; border: none; outline: none;"));
+    connect(logoButton, &QPushButton::clicked, aboutDialog, &AboutDialog::exec);
+    setStyleSheet(QStringLiteral("ComboBoxEx { padding-left: 4px } "));
+
+    for (QPushButton *button : {saveAsButton, profilesButton, logoButton}) {
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setAutoDefault(false);
+        button->setEnabled(button == logoButton);
+    }
+    setButtonsEnabled(false);
+}
+
+void BixDialog::createProfileDialogs()
+{
+    profileDialog = new ProfileDialog(this, collector.get());
+    profileSaveDialog = new ProfileSaveDialog(collector.get(), this);
+    connect(profilesButton, &QPushButton::clicked, profileDialog, &ProfileDialog::fillProfileTable);
+    connect(profilesButton, &QPushButton::clicked, profileDialog, &ProfileDialog::show);
+    connect(saveAsButton, &QPushButton::clicked, profileSaveDialog, &ProfileSaveDialog::show);
+}
+
+void BixDialog::createTabs()
+{
+    tabWidget = new BixTabWidget(this);
+    tabWidget->setTabPosition(QTabWidget::West);
+    tabWidget->setIconSize(QSize(30, 30));
+    for (Tab *page : qAsConst(pages))
+        tabWidget->addTab(page, page->tabIcon(), page->tabName());
+    enableTabs();
+}
+
+void BixDialog::createLayout()
+{
+    auto *grid = new QGridLayout(this);
+    grid->setSizeConstraint(QLayout::SetNoConstraint);
+    grid->addWidget(tabWidget, 1, 1, 1, 8);
+    grid->addWidget(saveAsButton, 2, 6, 1, 2, Qt::AlignRight);
+    grid->addWidget(profilesButton, 2, 8, 1, 1);
+    grid->addItem(new QSpacerItem(50, 23), 4, 1, 1, 3);
+    grid->addWidget(logoButton, 4, 1, 1, 3, Qt::AlignBottom);
+    grid->addWidget(buttonBox, 4, 4, 1, 5, Qt::AlignBottom | Qt::AlignRight);
+}
+
+void BixDialog::styleTabs()
+{
+    tabWidget->tabBar()->setIconSize(QSize(28, 28));
+    setBrush(tabWidget, QPalette::Window, QColor(245, 245, 245, 229));
+    tabWidget->tabBar()->setStyleSheet(QLatin1String(tabBarStyle));
+    tabWidget->setStyleSheet(QLatin1String(tabWidgetStyle));
+}
