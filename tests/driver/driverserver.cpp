@@ -9,7 +9,9 @@
 #include <QGuiApplication>
 #include <QLocalSocket>
 #include <QProcess>
+#include <QScopedValueRollback>
 #include <QScreen>
+#include <QThread>
 #include <QTimer>
 #include <QWidget>
 
@@ -19,6 +21,12 @@ namespace {
 int roundMs()
 {
     return QGuiApplication::platformName() == "xcb" ? 10 : 1;
+}
+
+/// Event loops that run within each other now.
+int loopLevel()
+{
+    return QThread::currentThread()->loopLevel();
 }
 
 constexpr int quietRoundsWanted = 2;
@@ -67,8 +75,10 @@ void DriverServer::handle(const QString &line)
     } else {
         const Step step = prepareStep(words);
         send(step.error.isEmpty() ? "ok" : "error: " + step.error);
-        if (step.action)
+        if (step.action) {
+            const QScopedValueRollback<int> level(m_actionLevel, loopLevel());
             step.action();
+        }
     }
 }
 
@@ -80,8 +90,10 @@ void DriverServer::sendStateWhenIdle(int quietRounds, int roundsLeft)
         send("error: the event loop never came to rest");
     } else {
         QTimer::singleShot(roundMs(), this, [=] {
-            const bool busy = QAbstractEventDispatcher::instance()->hasPendingEvents();
-            sendStateWhenIdle(busy ? 0 : quietRounds + 1, roundsLeft - 1);
+            // Events run between the keys of a step too.
+            const bool acting = m_actionLevel == loopLevel();
+            const bool busy = acting || QAbstractEventDispatcher::instance()->hasPendingEvents();
+            sendStateWhenIdle(busy ? 0 : quietRounds + 1, acting ? roundsLeft : roundsLeft - 1);
         });
     }
 }

@@ -14,6 +14,7 @@ class QLocalSocket;
 /// A line is a step of useractions.h, "ask WIDGET PROPERTY", or "state". An answer is "ok" or
 /// "error: REASON", then lines of its own, then a line with a single dot. "state" is answered when
 /// the panel has come to rest, with the lines of windowState(); a step is answered before it acts.
+/// The panel is at rest when the step is through, or stays in the event loop of a dialog.
 class DriverServer : public QObject
 {
     Q_OBJECT
@@ -31,4 +32,5 @@ private:
     QLocalServer m_server;
     QPointer<QLocalSocket> m_client; ///< owned by m_server
     WindowActivator m_activator;
+    int m_actionLevel = 0; ///< the event loop that the latest step under way began in, 0 for none
 };
