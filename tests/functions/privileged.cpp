@@ -5,6 +5,8 @@
 #include "privileged/secretmemory.h"
 #include "support/testhelpers.h"
 
+#include <sys/prctl.h>
+
 namespace {
 
 // What has been given to OPENSSL_cleanse(), by the thread that wants to know.
@@ -30,6 +32,7 @@ private slots:
     void statusOfCommands_data();
     void statusOfCommands();
     void cleansing();
+    void untraceable();
 };
 
 void TestPrivileged::commandLine()
@@ -98,6 +101,23 @@ void TestPrivileged::cleansing()
     QVERIFY(text.isNull() && shared.isNull());
     QCOMPARE(other, QByteArray("shared"));
     QCOMPARE(leftovers, QByteArray("s\0\xe9\0c\0r\0e\0t\0", 12));
+}
+
+void TestPrivileged::untraceable()
+{
+    const int outer = prctl(PR_GET_DUMPABLE);
+    for (const int before : {1, 0}) {
+        prctl(PR_SET_DUMPABLE, before);
+        int meanwhile = -1;
+        {
+            const UntraceableProcess object;
+            meanwhile = prctl(PR_GET_DUMPABLE);
+        }
+        const int after = prctl(PR_GET_DUMPABLE);
+        prctl(PR_SET_DUMPABLE, outer);
+        QCOMPARE(meanwhile, 0);
+        QCOMPARE(after, before);
+    }
 }
 
 static const FunctionTests::Entry<TestPrivileged> entry;
