@@ -9,7 +9,7 @@
 
 A row is deleted, or its first cell is changed where the rest doesn't compile without it. Ends with
 1 if a row has no witness. The checkout and its build stay as they are: a copy of one file is
-changed and compiled in a folder of its own and linked before the libraries, and test programs that
+changed and compiled in a folder of its own and linked before the libraries, and the programs that
 are made so run mounted in place of the real ones.
 """
 
@@ -26,27 +26,38 @@ import subprocess
 import sys
 import tempfile
 
-# The tests that watch the tables of a file, in the order tried: test programs, each alone or with
-# those of its functions that do, if others take long.
+# The tests that watch the tables of a file, in the order tried: names as ctest has them, each alone
+# or with those of its functions that do, if others take long.
 WATCHERS = {
-    "aboutdialog.cpp": ["tst_about aboutBox controlsHaveNames"],
-    "adjustmentdialog.cpp": ["tst_adjustments", "tst_languages"],
+    "aboutdialog.cpp": ["case_about"],
+    "adjustmentlayout.cpp": ["case_adjustments"],
+    "adjustmentrows.h": ["case_adjustments", "case_languages"],
+    "booklettab.cpp": ["case_layout", "case_languages"],
+    "colorgroup.cpp": ["case_basic", "case_imaging", "case_languages"],
     "constraintrules.cpp": ["tst_stores"],
-    "finishingtab.cpp": ["tst_finishingtab"],
-    "fkptab.cpp": ["tst_fkptab roundTrip", "tst_fkptab"],
-    "generaltab.cpp": ["tst_pages"],
-    "imagingtab.cpp": ["tst_imagingtab"],
-    "language.cpp": ["tst_languages"],
-    "monodialog.cpp": ["tst_adjustments"],
-    "maker.h": ["tst_stores", "tst_printsystem rowsByPpd"],
-    "pagesetuptable.cpp": ["tst_desktopsettings pageSetups"],
-    "policyreply.cpp": ["tst_policyclient policies tags reports"],
-    "printerstatus.cpp": ["tst_printsystem statusWords"],
-    "printertab.cpp": ["tst_languages", "tst_pages"],
-    "printqueues.cpp": ["tst_printsystem queuesAreThoseOfThePrintSystem"],
-    "profilereader.cpp": ["tst_profilereader"],
-    "profilerules.cpp": ["tst_profiles saveDialogChecks", "tst_profiles"],
+    "finishinglayout.cpp": ["case_finishing", "case_languages", "tst_functions TestRotateTitle"],
+    "finishingtab.cpp": ["case_finishing"],
+    "fkptab.cpp": ["case_policy"],
+    "generaltab.cpp": ["case_basic"],
+    "imaginglayout.cpp": ["case_imaging", "case_languages"],
+    "jobtab.cpp": ["case_job"],
+    "language.cpp": ["case_languages"],
+    "maker.h": ["tst_stores", "case_queues"],
+    "monodialog.cpp": ["case_adjustments"],
+    "pagesetuptable.cpp": ["tst_functions TestDesktopSettings"],
+    "passwordcipher.cpp": ["tst_functions TestPasswordCipher"],
+    "policyreply.cpp": ["tst_functions TestPolicyClient"],
+    "printerstatus.cpp": ["tst_functions TestPrinterStatus"],
+    "printertab.cpp": ["case_languages"],
+    "printqueues.cpp": ["case_queues"],
+    "profilereader.cpp": ["tst_functions TestProfileReader", "case_profiletree"],
+    "profilerules.cpp": ["tst_functions TestProfileRules"],
+    "publishingrows.h": ["case_publishing", "case_languages"],
+    "publishingtab.cpp": ["case_publishing"],
+    "publishingtab.h": ["case_publishing"],
     "syntheticoptions.cpp": ["tst_stores"],
+    "watermarkrecords.cpp": ["tst_functions TestWatermarkRecords", "case_watermark"],
+    "watermarkrows.h": ["case_watermark"],
 }
 
 # Tables whose rows hold lists: each word, or each text in the inner brackets, counts as a row.
@@ -193,34 +204,28 @@ class Build:
         self.folder = folder
         self.commands = {pathlib.Path(entry["file"]): entry["command"]
                          for entry in json.loads((folder / "compile_commands.json").read_text())}
-        lists = (ROOT / "tests/CMakeLists.txt").read_text()
-        self.kinds = dict(re.findall(r"^pressdesk_test\((\w+)(.*)\)", lists, re.MULTILINE))
+        listed = self.output("ctest", "--test-dir", folder, "--show-only=json-v1")
+        self.tests = {test["name"]: test for test in json.loads(listed)["tests"]}
         self.links = {}
-        self.tests = {}
 
-    def prepare(self, programs):
-        """Brings the programs up to date and finds out how they are linked and run."""
-        subprocess.run(["cmake", "--build", self.folder, "--target", *programs], check=True,
-                       stdout=subprocess.DEVNULL)
-        for target in {self.file(p) for program in programs for p in self.parts(program)}:
+    def prepare(self, tests):
+        """Brings the programs up to date and finds out how they are linked."""
+        subprocess.run(["cmake", "--build", self.folder], check=True, stdout=subprocess.DEVNULL)
+        for target in {self.target(test) for test in tests}:
             command = self.output("ninja", "-C", self.folder, "-t", "commands", "-s", target)
             command = command.strip().splitlines()[-1]
             self.links[target] = shlex.split(command.removeprefix(": && ").removesuffix(" && :"))
-        listed = self.output("ctest", "--test-dir", self.folder, "--show-only=json-v1")
-        self.tests = {test["name"]: test for test in json.loads(listed)["tests"]}
 
     @staticmethod
     def output(*command):
         return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
-    def parts(self, program):
-        """What has to be linked anew: the test program, and the panel if that is what it runs."""
-        panel = ["brixola-press-desk"] if "WHOLE_PROGRAM" in self.kinds[program] else []
-        return [program] + panel
-
-    @staticmethod
-    def file(name):
-        return f"tests/{name}" if name.startswith("tst_") else f"src/{name}"
+    def target(self, test):
+        """What a test runs, below the build folder: itself, or the panel if it is a script."""
+        if test.startswith("case_"):
+            return "src/brixola-press-desk"
+        program = pathlib.Path(self.tests[test]["command"][-1])
+        return str(program.relative_to(self.folder))
 
     def sources(self, path):
         """The source files that a change of `path` makes anew."""
@@ -261,12 +266,12 @@ class Build:
         return program
 
     def passes(self, watcher, objects, place):
-        program, *functions = watcher.split()
-        test = self.tests[program]
+        name, *functions = watcher.split()
+        test = self.tests[name]
         properties = {entry["name"]: entry["value"] for entry in test["properties"]}
-        command = ["bwrap", "--dev-bind", "/", "/"]
-        for target in map(self.file, self.parts(program)):
-            command += ["--bind", self.link(objects, target, place), self.folder / target]
+        target = self.target(name)
+        command = ["bwrap", "--dev-bind", "/", "/",
+                   "--bind", self.link(objects, target, place), self.folder / target]
         return run(command + test["command"] + functions, properties["WORKING_DIRECTORY"],
                    properties["TIMEOUT"], dict(each.split("=", 1) for each in
                                                properties["ENVIRONMENT"]))
@@ -332,10 +337,10 @@ def check_tables(rows, build, file):
     tables = {row.table for row in rows}
     unwatched = sorted({f"{row.path} {row.table}" for row in rows
                         if row.path.name not in WATCHERS and file in (None, row.path.name)})
-    faults = [f"no test program watches {each}: name one in {sys.argv[0]}" for each in unwatched]
+    faults = [f"no test watches {each}: name one in {sys.argv[0]}" for each in unwatched]
     faults += [f"{file} has no table any more" for file in WATCHERS if file not in files]
-    faults += [f"no test program {watcher}" for watchers in WATCHERS.values()
-               for watcher in watchers if watcher.split()[0] not in build.kinds]
+    faults += [f"no test {watcher}" for watchers in WATCHERS.values()
+               for watcher in watchers if watcher.split()[0] not in build.tests]
     faults += [f"no table {table} any more" for table in WORD_LISTS | TEXT_LISTS
                if table not in tables]
     faults += [f"{table} has no row {name} any more" for table, name in DEAD

@@ -9,7 +9,6 @@ click tblPrinters
 click About
 > title: About
 press Escape
-> title: Brixola Press Desk
 show tblPrinters page Ok Apply Cancel
 > tblPrinters: no row; page: Printer; Ok: OK grey; Apply: Apply grey; Cancel: Cancel
 click Profiles...
@@ -17,17 +16,14 @@ click Profiles...
 click "Save As..."
 > error: the widget is disabled
 select Office
-> Office.cfg: new; published Office: new
 tab Basic
 choose cmbBxPageSize A5
-> chkButStpl: off grey; cmbBxPageSize: A5
+> chkButStpl: off grey
 pick butGroupDuplex "Long edge"
-> butGroupDuplex: Long edge; butGroupDuplex.label: "Duplex: Long edge"
 click Apply
 > message: Settings applied.; title: Success; saved and published: Duplex=DuplexNoTumble PageRegion=A5 PageSize=A5
 > Office.cfg: ImageableArea=A5 MediaSize=A5 PaperDimension=A5
 click Ok
-> title: Brixola Press Desk - Office
 click Ok
 > message: Settings applied.; title: Success
 click Ok
@@ -49,4 +45,3 @@ click "Acerca de"
 > title: Acerca de
 # Return closes it, and must not open one of the others.
 press Return
-> title: Brixola Press Desk

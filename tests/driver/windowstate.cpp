@@ -19,6 +19,7 @@
 #include <QTextDocumentFragment>
 #include <QTextEdit>
 #include <QTreeView>
+#include <QWindow>
 
 namespace {
 
@@ -162,8 +163,13 @@ private:
         add(name + ".items", items.join('|'));
         add(name + ".blocked", blocked.join('|'));
         const auto *label = group->findChild<QLabel *>();
-        if (label)
-            add(name + ".label", quoted(plain(label->text())));
+        if (label) {
+            // That the value stands behind the title goes without saying.
+            QString text = plain(label->text());
+            if (text.endsWith(' ' + checked))
+                text.chop(checked.size() + 1);
+            add(name + ".label", quoted(text));
+        }
         return checked + (label ? mark(isMarked(label->text()), label->toolTip()) : QString());
     }
 
@@ -282,7 +288,8 @@ void addTabs(Lines *lines, const QTabBar *bar)
 
 void addFront(Lines *lines, const QWidget *window)
 {
-    lines->add("title", window->windowTitle());
+    // As the window system got it.
+    lines->add("title", window->windowHandle() ? window->windowHandle()->title() : QString());
     if (const auto *box = qobject_cast<const QMessageBox *>(window))
         lines->add("message", plain(box->text()));
 }

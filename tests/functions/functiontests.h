@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QMap>
 #include <QtTest>
 
 #include <functional>
-#include <vector>
 
 /// The test classes of this program. A file registers its own: static const
 /// FunctionTests::Entry<TestPageList> entry;
@@ -15,7 +15,7 @@ public:
     {
         Entry()
         {
-            all().push_back([](const QStringList &arguments) {
+            all().insert(Test::staticMetaObject.className(), [](const QStringList &arguments) {
                 Test test;
                 return QTest::qExec(&test, arguments);
             });
@@ -23,9 +23,9 @@ public:
     };
 
     using Run = std::function<int(const QStringList &arguments)>;
-    static std::vector<Run> &all()
+    static QMap<QString, Run> &all() ///< by class
     {
-        static std::vector<Run> tests;
+        static QMap<QString, Run> tests;
         return tests;
     }
 };

@@ -41,6 +41,17 @@ bool isOfWidget(const QString &key)
     return !others.contains(key);
 }
 
+/// The value that a step is to give its widget, null for other steps.
+QString valueOf(const QStringList &step)
+{
+    const QString verb = step.value(0);
+    if (verb == "check" || verb == "uncheck")
+        return verb == "check" ? "on" : "off";
+    if (verb == "type")
+        return '"' + step.value(2) + '"';
+    return verb == "choose" || verb == "pick" ? step.value(2) : QString();
+}
+
 QStringList windowChanges(const PanelState &before, const PanelState &after, bool quiet)
 {
     QStringList lines;
@@ -48,7 +59,8 @@ QStringList windowChanges(const PanelState &before, const PanelState &after, boo
         const QString &key = entry.key();
         const bool isOfFront = key == "title" || key == "message" || key == "nameless";
         if ((!before.contains(key) && !isOfFront) || before.value(key) == entry.value() ||
-            (quiet && (isOfWidget(key) || entry.value().startsWith("Brixola Press Desk"))))
+            (quiet && (isOfWidget(key) || entry.value().startsWith("Brixola Press Desk"))) ||
+            (before.value(key).endsWith(" hidden") && entry.value().endsWith(" hidden")))
             continue;
         if (key.endsWith(".items") || key.endsWith(".blocked"))
             addListChange(key, before.value(key), entry.value(), &lines);
@@ -133,6 +145,7 @@ Case Player::play(const Case &preamble, const Case &wanted)
     prepareEnvironment();
     arguments.clear();
     shown.clear();
+    mainTitle.clear();
     hasEnded = false;
     Case played = wanted;
     const QString error = world.reset();
@@ -144,8 +157,19 @@ Case Player::play(const Case &preamble, const Case &wanted)
         step.expected = failed + stepResult(step);
         failed.clear();
     }
+    // What should have closed would not show otherwise.
+    if (!played.steps.isEmpty())
+        played.steps.last().expected += openDialog();
     panel.stop();
     return played;
+}
+
+QStringList Player::openDialog() const
+{
+    const QString title = shown.value("title");
+    if (!panel.isRunning() || title == mainTitle || title.startsWith("Brixola Press Desk"))
+        return {};
+    return {"left open: " + title};
 }
 
 void Player::prepareEnvironment()
@@ -234,13 +258,15 @@ QStringList Player::panelStep(const QString &verb, const QString &line)
     const bool restarts = verb == "start" || verb == "restart";
     if (verb == "start")
         arguments = QProcess::splitCommand(line).mid(1);
-    if (restarts)
+    if (restarts) {
+        lines = openDialog();
         panel.stop();
+    }
     if (restarts || (!panel.isRunning() && !hasEnded)) {
-        lines = startPanel();
+        lines += startPanel();
         // Nobody has to write the step that says what goes without saying.
         if (restarts || !lines.isEmpty()) {
-            addChanges(true, &lines);
+            addChanges({}, true, &lines);
             return lines;
         }
         shown = panel.state();
@@ -250,25 +276,28 @@ QStringList Player::panelStep(const QString &verb, const QString &line)
         clock.start();
         while (lines.isEmpty() && clock.elapsed() < longestAwaitMs && panel.isRunning()) {
             QThread::msleep(20);
-            addChanges(false, &lines);
+            addChanges({}, false, &lines);
         }
         return lines;
     }
     QStringList answer;
-    const QString step = verb == "select" ? "row tblPrinters" + line.mid(6) : line;
-    if (!panel.send(step, &answer)) {
+    const QString step = verb == "select"  ? "row tblPrinters" + line.mid(6)
+                         : verb == "apply" ? "click Apply"
+                                           : line;
+    bool done = panel.send(step, &answer);
+    if (verb == "apply" && panel.state().value("message") == "Settings applied.")
+        done = panel.send("click Ok", &answer);
+    if (!done) {
         lines.append("error: " + panel.error());
         return lines;
     }
     if (verb == "ask")
         return answer;
-    if (verb == "tab")
-        shown["page"] = panel.state().value("page"); // goes without saying
-    addChanges(verb == "select", &lines);
+    addChanges(QProcess::splitCommand(line), verb == "select", &lines);
     return lines;
 }
 
-void Player::addChanges(bool quiet, QStringList *lines)
+void Player::addChanges(const QStringList &step, bool quiet, QStringList *lines)
 {
     const PanelState now = panel.state();
     if (now.isEmpty() && !hasEnded) {
@@ -276,9 +305,38 @@ void Player::addChanges(bool quiet, QStringList *lines)
         lines->append("ended " + panel.end());
     }
     const auto files = world.files();
-    *lines += joined(windowChanges(shown, now, quiet) + fileChanges(saved, files));
+    expect(step, now);
+    QStringList changes = windowChanges(shown, now, quiet) + fileChanges(saved, files);
+    if (step.value(0) == "select") {
+        // The first time it saves the defaults and publishes them.
+        const QString cfg = step.value(1) + ".cfg";
+        const QString published = "published " + step.value(1);
+        if (!files.contains(cfg))
+            changes.append(cfg + ": none");
+        else if (changes.removeOne(cfg + ": new") && !changes.removeOne(published + ": new") &&
+                 !files.contains(published))
+            changes.append(published + ": none");
+    }
+    *lines += joined(changes);
     shown = now;
     saved = files;
+}
+
+/// Changes what is known to have been shown so that a step's own effect goes without saying, and
+/// its lack doesn't.
+void Player::expect(const QStringList &step, const PanelState &now)
+{
+    if (step.value(0) == "tab")
+        shown["page"] = step.value(1);
+    const QString value = valueOf(step);
+    if (!value.isNull() && shown.contains(step.value(1)))
+        shown[step.value(1)] = value;
+    // A dialog that closes leads back to the window.
+    const QString title = now.value("title");
+    if (title == mainTitle)
+        shown["title"] = title;
+    else if (title.startsWith("Brixola Press Desk"))
+        mainTitle = title;
 }
 
 QStringList Player::show(const QStringList &keys)

@@ -20,7 +20,9 @@ private:
     QStringList panelStep(const QString &verb, const QString &line);
     QStringList startPanel();
     QStringList show(const QStringList &keys);
-    void addChanges(bool quiet, QStringList *lines);
+    void addChanges(const QStringList &step, bool quiet, QStringList *lines);
+    void expect(const QStringList &step, const PanelState &now);
+    QStringList openDialog() const;
     void prepareEnvironment();
 
     const QString platform;
@@ -28,6 +30,7 @@ private:
     PanelProcess panel;
     QStringList arguments;
     PanelState shown;
+    QString mainTitle; ///< what the main window was called last
     QMap<QString, QStringList> saved;
     bool hasEnded = false;
 };
