@@ -16,8 +16,11 @@
 
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QGuiApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopedValueRollback>
+#include <QScreen>
 #include <QTabBar>
 
 #include <cstdlib>
@@ -71,8 +74,13 @@ void BixDialog::refuseRoot(const QString &title)
 
 void BixDialog::askAboutCollection()
 {
-    if (!QFile::exists(userDir + QStringLiteral("Settings")))
-        TelemetryDialog(this).exec();
+    if (QFile::exists(userDir + QStringLiteral("Settings")))
+        return;
+    TelemetryDialog question(this);
+    // This window, which it would be put on, doesn't show yet.
+    question.move(QGuiApplication::primaryScreen()->availableGeometry().center() -
+                  question.rect().center());
+    question.exec();
 }
 
 void BixDialog::showEvent(QShowEvent *event)
@@ -129,7 +137,9 @@ void BixDialog::printerChanged(int row, int, int previousRow, int)
     for (Tab *page : qAsConst(pages))
         page->retranslate();
     const QString printer = currentStore->printerName();
-    setWindowTitle(tr("Brixola Press Desk") + QStringLiteral(" - ") + printer);
+    // Qt's mark for unsaved changes, doubled, stands for itself.
+    setWindowTitle(tr("Brixola Press Desk") + QStringLiteral(" - ") +
+                   QString(printer).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
     enableTabs();
     reloadPrinterTab = true;
     profileChanged();
@@ -168,6 +178,8 @@ void BixDialog::unselectPrinters()
     currentStore = nullptr; // the object stays with the Printer page
     printerTab->clearPrinterSelection();
     setWindowTitle(tr("Brixola Press Desk"));
+    setButtonsEnabled(false);
+    setProfileButtonsEnabled(false);
     enableTabs();
 }
 
@@ -176,10 +188,8 @@ bool BixDialog::checkPrinters()
     const QSet<QString> current = queueNames();
     if (current == knownPrinters)
         return false;
-    const QSet<QString> gone = QSet<QString>(knownPrinters).subtract(current);
-    const bool lost = !currentStore || gone.contains(currentStore->printerName());
     printerTab->reloadPrinterTable();
-    if (lost) {
+    if (!isSelectedPrinterKnown()) {
         unselectPrinters();
         QMessageBox box(this);
         box.setWindowTitle(tr("Error"));
@@ -189,12 +199,34 @@ bool BixDialog::checkPrinters()
     return true;
 }
 
+bool BixDialog::isSelectedPrinterKnown()
+{
+    return currentStore && knownPrinters.contains(currentStore->printerName());
+}
+
 // The constraint pass
 
 void BixDialog::setConstraints()
 {
     if (!currentStore)
         return;
+    // A page that moves a widget says so in the middle of a pass: the one that runs sees to it.
+    if (passRunning) {
+        passDue = true;
+        return;
+    }
+    if (runPass() && constraintPasses++ < mostRepeats)
+        setConstraints();
+    else
+        constraintPasses = 0;
+    checkPrinters();
+    emit constraintsWorkedOut();
+}
+
+bool BixDialog::runPass()
+{
+    const QScopedValueRollback<bool> running(passRunning, true);
+    passDue = false;
     for (Tab *page : qAsConst(pages))
         page->setMarked(false);
     bool changed = false;
@@ -207,11 +239,7 @@ void BixDialog::setConstraints()
     constraintsClear = !hasMarks();
     setButtonsEnabled(constraintsClear);
     saveAsButton->setEnabled(constraintsClear);
-    if (changed && constraintPasses++ < mostRepeats)
-        setConstraints();
-    else
-        constraintPasses = 0;
-    checkPrinters();
+    return changed || passDue;
 }
 
 void BixDialog::markPage(int index)
@@ -328,5 +356,8 @@ void BixDialog::showFailedPublication()
     box.setText(tr("Error: Printer does not exist or lpoptions failed."));
     box.exec();
     tabWidget->setCurrentIndex(0);
-    checkPrinters();
+    // Apply has filled the table anew, so that nothing seems to have changed since. While the
+    // scheduler is only restarted, nothing that was set is to be lost.
+    if (!checkPrinters() && !isSelectedPrinterKnown() && isPrintSystemReachable())
+        unselectPrinters();
 }

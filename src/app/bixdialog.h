@@ -55,7 +55,7 @@ public slots:
 
 protected:
     void showEvent(QShowEvent *event) override;
-    /// The Tab key stays within a page.
+    /// Never moves the focus to another widget of this window, whatever asks for it.
     bool focusNextPrevChild(bool next) override;
 
 private:
@@ -73,11 +73,18 @@ private:
     void setProfileButtonsEnabled(bool on);
     void changeInstalledOptions();
     void showFailedPublication();
+    /// Fills the table of printers anew if they are others now, and unselects one that is gone.
+    /// True if they are others.
     bool checkPrinters();
+    static bool isSelectedPrinterKnown();
+    /// One round over all pages; true if another one is due.
+    bool runPass();
     bool hasMarks() const;
     void markPage(int index);
 
-    int constraintPasses = 0;      ///< how often setConstraints() has repeated itself in a row
+    int constraintPasses = 0; ///< how often setConstraints() has repeated itself in a row
+    bool passRunning = false;
+    bool passDue = false;          ///< something moved while a pass was running
     bool reloadPrinterTab = false; ///< only during the reload of a printer change
     bool published = false;        ///< the last publication reached its end
     QPushButton *saveAsButton;

@@ -70,6 +70,7 @@ void BixDialog::createPages()
 
     aboutDialog = new AboutDialog(this);
 
+    // After the Printer page's own connection, which has taken over the selected printer by then.
     connect(printerTab->table(), &QTableWidget::currentCellChanged, this,
             &BixDialog::printerChanged);
 }
@@ -136,6 +137,9 @@ void BixDialog::createLayout()
 {
     auto *grid = new QGridLayout(this);
     grid->setSizeConstraint(QLayout::SetNoConstraint);
+    // The window's size is fixed. What the pages would like must not move the buttons below them,
+    // as it grows with every page that is shown for the first time.
+    tabWidget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     grid->addWidget(tabWidget, 1, 1, 1, 8);
     grid->addWidget(saveAsButton, 2, 6, 1, 2, Qt::AlignRight);
     grid->addWidget(profilesButton, 2, 8, 1, 1);

@@ -60,6 +60,7 @@ void OptionChoice::addGroupConstraint(const OptionRefList &rule)
 void OptionChoice::arm()
 {
     Q_ASSERT(option_ && option_->current() == this); // only a selected value blocks others
+    armed = true;
     const int priority = option_->priority();
     for (const OptionRef &other : qAsConst(pairConstraints)) {
         // The lower number wins, so a stronger option never yields; equals block each other.
@@ -75,6 +76,7 @@ void OptionChoice::arm()
 
 void OptionChoice::release()
 {
+    armed = false;
     // Whatever the priorities say now: they may have changed since the block was posted.
     for (const OptionRef &other : qAsConst(pairConstraints)) {
         other.choice->activePairBlocks.removeOne({option_, this});

@@ -71,10 +71,14 @@ public:
     void arm();
     /// Withdraws this value's blocks; bOption::setCurrent() runs it on the value that goes.
     void release();
+    /// True from arm() to release(). A selected value may be released: when nothing of an option
+    /// could be chosen, its value must not hold up others.
+    bool isArmed() const { return armed; }
 
 private:
     QString key_;
     QString text_;
+    bool armed = false;
     bOption *option_ = nullptr;
     QList<OptionRef> pairConstraints;
     QList<OptionRef> activePairBlocks;

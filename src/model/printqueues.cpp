@@ -73,3 +73,8 @@ QSet<QString> queueNames()
         names.insert(queue.name);
     return names;
 }
+
+bool isPrintSystemReachable()
+{
+    return getPrinters() != nullptr;
+}

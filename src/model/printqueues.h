@@ -22,3 +22,5 @@ extern QSet<QString> knownPrinters;
 /// PPD, for a quarter of a second.
 QList<PrintQueue> printQueues();
 QSet<QString> queueNames();
+/// Whether the scheduler answers at all.
+bool isPrintSystemReachable();

@@ -125,8 +125,9 @@ void ProfileDialog::connectAll(PanelDialog *dialog)
     connect(applyButton, &QPushButton::clicked, this, &ProfileDialog::loadProfile);
     connect(applyButton, &QPushButton::clicked, dialog, &PanelDialog::profileChanged);
     connect(applyButton, &QPushButton::clicked, dialog, &PanelDialog::setConstraints);
-    connect(applyButton, &QPushButton::clicked, this, &ProfileDialog::enableSaving);
     connect(buttonBox, &QDialogButtonBox::rejected, this, &ProfileDialog::reject);
+    // A mark may go later: the policy server answers in its own time.
+    connect(dialog, &PanelDialog::constraintsWorkedOut, this, &ProfileDialog::enableSaving);
 
     connect(saveButton, &QPushButton::clicked, saveDialog, &ProfileSaveDialog::exec);
     connect(saveButton, &QPushButton::clicked, this, &ProfileDialog::fillProfileTable);

@@ -37,10 +37,16 @@ void forEachValue(const QString &key, const std::function<bool(const QString &)>
     while (!stream.atEnd()) {
         const QString line = stream.readLine(longestLine);
         const int equals = line.indexOf(QLatin1Char('='));
-        // A line without "=" is all key, with nothing behind it.
-        if (line.leftRef(equals) == key && !use(equals < 0 ? QString() : line.mid(equals + 1)))
+        if (equals >= 0 && line.leftRef(equals) == key && !use(line.mid(equals + 1)))
             return;
     }
+}
+
+/// A line break in a value would begin an entry of its own.
+QString oneLine(QString text)
+{
+    return text.replace(QLatin1Char('\n'), QLatin1Char(' '))
+        .replace(QLatin1Char('\r'), QLatin1Char(' '));
 }
 
 /// What stands before the entries of a file.
@@ -65,11 +71,12 @@ void writeFile(const QString &path, const Settings &settings, Heading heading,
     if (heading == Heading::Profile)
         stream << "[Profile]" << Qt::endl;
     if (heading != Heading::None)
-        stream << '[' << (currentStore ? currentStore->modelName() : QString()) << ']' << Qt::endl;
+        stream << '[' << oneLine(currentStore ? currentStore->modelName() : QString()) << ']'
+               << Qt::endl;
     if (description)
-        stream << "ProfileDescription=" << *description << Qt::endl;
+        stream << "ProfileDescription=" << oneLine(*description) << Qt::endl;
     for (auto entry = settings.cbegin(); entry != settings.cend(); ++entry)
-        stream << entry.key() << '=' << entry.value() << Qt::endl;
+        stream << oneLine(entry.key()) << '=' << oneLine(entry.value()) << Qt::endl;
 }
 
 } // namespace
@@ -166,6 +173,11 @@ bool updateSetting(const QString &key, const QString &value)
     out.flush();
     settings.close();
     temporary.close();
+    // With a full disk the old file is worth more than half a new one.
+    if (out.status() != QTextStream::Ok || temporary.error() != QFileDevice::NoError) {
+        temporary.remove();
+        return false;
+    }
     return std::rename(QFile::encodeName(temporary.fileName()).constData(),
                        QFile::encodeName(settings.fileName()).constData()) == 0;
 }

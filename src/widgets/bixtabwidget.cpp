@@ -13,7 +13,6 @@ BixTabWidget::BixTabWidget(QWidget *parent)
 void BixTabWidget::paintEvent(QPaintEvent *event)
 {
     QTabWidget::paintEvent(event);
-    const int barBottom = tabBar()->geometry().bottom();
-    QPainter(this).fillRect(0, barBottom, tabBar()->width(), height() - barBottom,
-                            QColor(0, 0, 0, 127));
+    const int top = tabBar()->geometry().bottom() + 1; // below the last tab
+    QPainter(this).fillRect(0, top, tabBar()->width(), height() - top, QColor(0, 0, 0, 127));
 }

@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 class TestSettingsFile : public QObject
@@ -28,6 +30,7 @@ private slots:
     void directoryIsMadeWithItsParents();
     void updated_data();
     void updated();
+    void updatedOnFullDisk();
 
 private:
     std::unique_ptr<QTemporaryDir> directory;
@@ -43,7 +46,7 @@ last line without an end              | A=1/B=2                  | B        | 2
 keys are case-sensitive               | pagesize=A4/             | PageSize |
 a longer key is another key           | PageSizeX=A3/PageSize=A4 | PageSize | A4
 an empty value ends the search        | A=/A=2/                  | A        | /2
-a line without equals has no value    | A/A=2/                   | A        | /2
+a line without equals is no entry     | A/A=2/A                  | A        | 2
 letters beyond ASCII                  | Name=Größe ✓/            | Name     | Größe ✓
 )");
     addRow("blanks belong to key and value", QString(" A =1/A= 2 "), QString("A"), QString(" 2 "));
@@ -76,11 +79,12 @@ void TestSettingsFile::written()
     QCOMPARE(fileText(path),
              QByteArray("[Profile]\n[]\nProfileDescription=Two lines\\nof text\nEmpty=\n"));
     OptionStore store;
-    store.setModelName("Brixola PX-4500");
     currentStore = &store;
-    writeCfg(path, {{"A", "1"}}, false);
+    // What was pasted is no further entry.
+    store.setModelName("Brixola\nPX-4500");
+    writeCfg(path, {{"A\r", "1\r\nB=2"}}, false);
     currentStore = nullptr;
-    QCOMPARE(fileText(path), QByteArray("[Profile]\n[Brixola PX-4500]\nA=1\n"));
+    QCOMPARE(fileText(path), QByteArray("[Profile]\n[Brixola PX-4500]\nA =1  B=2\n"));
 }
 
 void TestSettingsFile::directoryIsMadeWithItsParents()
@@ -119,6 +123,24 @@ void TestSettingsFile::updated()
     QTEST(found ? QString(fileText(path).replace('\n', '/')) : "-", "after");
     // The copy is begun even when there is nothing to copy.
     QCOMPARE(QFile::exists(path + "_tmp"), !found);
+}
+
+void TestSettingsFile::updatedOnFullDisk()
+{
+    const QByteArray before = "A=" + QByteArray(1 << 20, 'x') + '\n';
+    QVERIFY(setFileText(settingsPath(), before));
+    // A limit to the size of files fails a write as a full disk does, for root too.
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const rlimit small{1 << 16, usual.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &small);
+    const bool written = updateSetting("FKP_server", "new");
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, handler);
+    QVERIFY(!written);
+    QCOMPARE(fileText(settingsPath()), before);
+    QVERIFY(!QFile::exists(settingsPath() + "_tmp"));
 }
 
 static const FunctionTests::Entry<TestSettingsFile> entry;

@@ -6,7 +6,8 @@
 #include "pages/base/labelbinding.h"
 #include "pages/base/sliderbinding.h"
 
-#include <QObject>
+#include <QVariant>
+#include <QWidget>
 
 const Binding &Binding::of(const QObject *widget)
 {
@@ -25,4 +26,12 @@ const Binding &Binding::of(const QObject *widget)
             return *each;
     }
     return none;
+}
+
+QString Binding::ownText(QWidget *widget, const QString &text)
+{
+    constexpr char property[] = "ownText";
+    if (!widget->property(property).isValid())
+        widget->setProperty(property, text);
+    return widget->property(property).toString();
 }

@@ -59,4 +59,9 @@ public:
     virtual void clearMark(QWidget *) const {}
     /// Sets or removes a mark with a tool tip that says why.
     virtual void markWithToolTip(QWidget *, const QString &, bool /*on*/) const {}
+
+protected:
+    /// The text that the page gave the widget, before an option's name took its place: `text` as it
+    /// is at the first call.
+    static QString ownText(QWidget *widget, const QString &text);
 };

@@ -60,7 +60,7 @@ bool forceState(Tab &page, Checkable *box, bool offBlocked, bool onBlocked)
     const bool moved = box->isChecked() != state;
     box->setEnabled(false);
     box->setChecked(state);
-    // Its signal may have started a constraint pass that switched it back.
+    // Slots of its signal may have switched it back.
     if (moved)
         page.applyWidgetValue(box->isChecked(), box);
     return moved;
@@ -109,9 +109,9 @@ QString CheckBinding::savedValue(const QWidget *widget, const bOption *) const
 void CheckBinding::showOption(QWidget *widget, const bOption *option) const
 {
     auto *box = static_cast<QCheckBox *>(widget);
-    if (option)
-        box->setText(captionText(option->text()));
-    else
+    const QString ownText = Binding::ownText(box, box->text());
+    box->setText(option ? captionText(option->text()) : ownText);
+    if (!option)
         box->setChecked(false);
     box->setEnabled(option);
 }

@@ -111,8 +111,15 @@ bool ComboBinding::enableItems(Tab &page, ComboBoxEx *box, bOption *option)
             replacement = index;
         setItemEnabled(index, box, blocked);
     }
-    if (!mustMove)
-        return false;
+    if (!mustMove) {
+        // A box that had nothing left to choose has posted no blocks; now it does again.
+        const OptionChoice *current = option->current();
+        const OptionChoice *shown = option->findChoiceByText(box->currentText());
+        if (!current || current->isArmed() || !shown || shown->isBlocked())
+            return false;
+        page.applyWidgetValue(box->currentIndex(), box);
+        return true;
+    }
 
     const QSignalBlocker silent(box);
     if (replacement < 0) {

@@ -16,8 +16,9 @@ QLabel *toLabel(QWidget *widget)
 
 void LabelBinding::showOption(QWidget *widget, const bOption *option) const
 {
-    if (option)
-        ConstraintMark::setPlainText(toLabel(widget), option->text() + QLatin1Char(':'));
+    QLabel *label = toLabel(widget);
+    const QString ownText = Binding::ownText(label, label->text());
+    ConstraintMark::setPlainText(label, option ? option->text() + QLatin1Char(':') : ownText);
     widget->setEnabled(option);
 }
 

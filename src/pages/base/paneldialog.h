@@ -31,4 +31,8 @@ public slots:
     virtual void toggleColorMode() = 0;
     /// Reloads all pages from the current settings file.
     virtual void profileChanged() = 0;
+
+signals:
+    /// A constraint pass is through, and `constraintsClear` says what it found.
+    void constraintsWorkedOut();
 };

@@ -15,6 +15,7 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 #include <QSlider>
 
 #include <algorithm>
@@ -268,6 +269,11 @@ void Tab::collectBoundWidgets()
 
 bool Tab::enableOptions()
 {
+    // A box that has to move says so, and the Printer page answers with this very slot: the pass
+    // that follows takes care of the rest.
+    if (enabling)
+        return false;
+    const QScopedValueRollback<bool> once(enabling, true);
     bool changed = false;
     for (const auto &[keyword, widget] : boundWidgets) {
         if (bOption *option = findOption(keyword))

@@ -156,4 +156,6 @@ protected:
 
 private:
     void markWidget(QWidget *widget);
+
+    bool enabling = false; ///< enableOptions() is running
 };

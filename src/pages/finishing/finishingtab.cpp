@@ -67,6 +67,7 @@ void FinishingTab::connectSignals()
         onToggle(fold,
                  fold == TriFold ? &FinishingTab::toggleTriFold : &FinishingTab::toggleBiFold);
     }
+    // Behind the page's own slots: the pass that these start has to see what those have moved.
     connectBoundWidgets();
 }
 

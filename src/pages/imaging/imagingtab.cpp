@@ -17,6 +17,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalBlocker>
 
 using PageWidgets::withColon;
 
@@ -121,66 +122,108 @@ void ImagingTab::loadLeanPrint()
     QString key = readSetting(LeanPrint::keyword);
     if (key.isEmpty() && option->defaultChoice())
         key = option->defaultChoice()->key();
-    const bool on = LeanPrint::isOn(key);
-    leanprintGroup->setButtonByValue(on ? tr("On") : tr("Off"));
-    leanprintButtonToggled();
-
+    const bool on = LeanPrint::isOn(key) && option->choiceCount() > 1;
     const bool hasLevels = LeanPrint::hasLevels(*option);
     leanprintBox->setVisible(hasLevels);
-    if (!hasLevels)
-        return;
     leanprintBox->clear();
-    const QList<OptionChoice *> levels = option->choiceList().mid(1);
+    const QList<OptionChoice *> levels =
+        hasLevels ? option->choiceList().mid(1) : QList<OptionChoice *>();
     for (const OptionChoice *level : levels)
         leanprintBox->addItem(level->text());
+    leanprintGroup->setButtonByValue(on ? tr("On") : tr("Off"));
+    leanprintButtonToggled();
     leanprintBox->setCurrentIndex(LeanPrint::levelToShow(*option, on ? key : QString()));
+    applyLeanPrint();
+}
+
+bool ImagingTab::isLeanPrintOn() const
+{
+    return leanprintGroup->currentIndex() != 0;
+}
+
+void ImagingTab::applyLeanPrint()
+{
+    if (bOption *option = findOption(LeanPrint::keyword))
+        option->setCurrent(
+            LeanPrint::shownChoice(*option, isLeanPrintOn(), leanprintBox->currentIndex()));
 }
 
 void ImagingTab::leanprintButtonToggled()
 {
-    bOption *option = findOption(LeanPrint::keyword);
+    const bOption *option = findOption(LeanPrint::keyword);
     if (!option)
         return;
-    if (leanprintGroup->currentIndex() == 0) {
+    const OptionChoice *plainOn = option->findChoice(Keys::on);
+    if (!isLeanPrintOn()) {
         leanprintBox->setEnabled(false);
         if (option->choiceCount() == 6)
             leanprintBox->setCurrentIndex(2);
-        option->setCurrent(option->findChoice(Keys::off));
-        return;
-    }
-    option->setCurrent(LeanPrint::onChoice(*option));
-    // With a plain "On" the printer decides how much to save.
-    if (!option->hasChoice(Keys::on))
+    } else if (!plainOn) {
         leanprintBox->setEnabled(true);
+    } else if (LeanPrint::hasLevels(*option)) {
+        // With a plain "On" the printer decides how much to save.
+        leanprintBox->setCurrentIndex(LeanPrint::levelToShow(*option, Keys::on));
+    }
+    applyLeanPrint();
 }
 
 void ImagingTab::leanprintComboBoxChanged()
 {
-    bOption *option = findOption(LeanPrint::keyword);
-    if (!option || !leanprintBox->isEnabled())
-        return;
-    const QString level = LeanPrint::levelKey(leanprintBox->currentIndex());
-    if (OptionChoice *choice = option->findChoice(level))
-        option->setCurrent(choice);
+    if (leanprintBox->isEnabled())
+        applyLeanPrint();
 }
 
 bool ImagingTab::enableOptions()
 {
-    const bool changed = Tab::enableOptions();
-    const bOption *option = findOption(LeanPrint::keyword);
-    if (!option)
-        return changed;
-    const OptionChoice *off = option->choiceList().value(0);
-    const bool mustBeOn = off && off->isBlocked();
+    bool changed = Tab::enableOptions();
+    if (bOption *option = findOption(LeanPrint::keyword))
+        changed = enableLeanPrint(option) || changed;
+    return changed;
+}
+
+bool ImagingTab::enableLeanPrint(bOption *option)
+{
+    const QList<OptionChoice *> choices = option->choiceList();
+    const bool mustBeOn = !choices.isEmpty() && choices[0]->isBlocked();
+    int firstFree = -1;
+    for (int level = choices.size() - 2; level >= 0; --level) {
+        const bool blocked = choices[level + 1]->isBlocked();
+        setChoiceEnabled(level, leanprintBox, blocked);
+        if (!blocked)
+            firstFree = level;
+    }
     leanprintGroup->setGroupEnabled(!mustBeOn);
-    if (!mustBeOn)
-        return changed;
-    leanprintGroup->setLabelEnabled(true);
-    if (leanprintGroup->currentIndex() != 0)
-        return changed;
-    leanprintGroup->setButton(1);
-    leanprintButtonToggled();
-    return true;
+    leanprintGroup->setEnabledAt(1, firstFree >= 0);
+    bool changed = false;
+    const auto switchTo = [&](int button) {
+        leanprintGroup->setButton(button);
+        leanprintButtonToggled();
+        changed = true;
+    };
+    if (mustBeOn) {
+        leanprintGroup->setLabelEnabled(true);
+        if (!isLeanPrintOn())
+            switchTo(1);
+    }
+
+    const OptionChoice *shown =
+        LeanPrint::shownChoice(*option, isLeanPrintOn(), leanprintBox->currentIndex());
+    if (isLeanPrintOn() && shown && shown->isBlocked()) {
+        if (firstFree >= 0) {
+            const QSignalBlocker silent(leanprintBox);
+            leanprintBox->setCurrentIndex(firstFree);
+            applyLeanPrint();
+            changed = true;
+        } else if (!mustBeOn) {
+            switchTo(0);
+        } else {
+            option->setCurrent(nullptr); // what can't be printed must not hold up other options
+        }
+    } else if (shown && option->current() && !option->current()->isArmed()) {
+        applyLeanPrint(); // something is left to choose again
+        changed = true;
+    }
+    return changed;
 }
 
 // Colour mode
@@ -234,10 +277,12 @@ QHash<QString, QString> ImagingTab::collectSettings()
     const bool hasColor = findOption(ColorGroup::keyword);
     if (!hasColor)
         savedSettings.insert(ColorGroup::keyword, QStringLiteral("Gray"));
-    if (const bOption *option = findOption(LeanPrint::keyword))
-        savedSettings.insert(LeanPrint::keyword,
-                             LeanPrint::settingFor(*option, leanprintGroup->currentIndex() != 0,
-                                                   leanprintBox->currentIndex()));
+    if (const bOption *option = findOption(LeanPrint::keyword)) {
+        const OptionChoice *shown =
+            LeanPrint::shownChoice(*option, isLeanPrintOn(), leanprintBox->currentIndex());
+        if (shown)
+            savedSettings.insert(LeanPrint::keyword, shown->key());
+    }
 
     // Raster and PDF filters know nothing of adjustments.
     if (currentStore && !currentStore->rasterOrPdfFilter()) {

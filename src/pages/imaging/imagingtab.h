@@ -46,6 +46,11 @@ private:
     void createLayout();
     void enableAdjustment();
     void loadLeanPrint();
+    bool isLeanPrintOn() const;
+    /// Sets the option to what switch and list show.
+    void applyLeanPrint();
+    /// Greys blocked levels and moves off them; true if something had to move.
+    bool enableLeanPrint(bOption *option);
     void loadResolutionFallback();
 
     QGridLayout *qualityGrid;

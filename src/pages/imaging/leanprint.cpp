@@ -25,17 +25,6 @@ bool isOn(const QString &key)
     return key == Keys::on || key.contains(levelPrefix);
 }
 
-OptionChoice *onChoice(const bOption &option)
-{
-    OptionChoice *on = option.findChoice(Keys::on);
-    return on ? on : option.findChoice(levelKey(usualLevel));
-}
-
-QString levelKey(int level)
-{
-    return levelPrefix + QString::number(level + 1);
-}
-
 int levelToShow(const bOption &option, const QString &key)
 {
     const QList<OptionChoice *> levels = option.choiceList().mid(1);
@@ -46,11 +35,12 @@ int levelToShow(const bOption &option, const QString &key)
     return std::min(usualLevel, levels.size() - 1);
 }
 
-QString settingFor(const bOption &option, bool on, int level)
+OptionChoice *shownChoice(const bOption &option, bool on, int level)
 {
-    if (!on)
-        return Keys::off;
-    return hasLevels(option) ? levelKey(level) : QString(Keys::on);
+    OptionChoice *named = option.findChoice(on ? Keys::on : Keys::off);
+    if (on && hasLevels(option))
+        return option.choiceList().value(level + 1);
+    return named ? named : option.choiceList().value(on ? 1 : 0);
 }
 
 } // namespace LeanPrint

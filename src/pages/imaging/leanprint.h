@@ -17,13 +17,11 @@ inline const QLatin1String keyword("Lnpr");
 bool hasLevels(const bOption &option);
 /// True for the key of a choice that saves toner.
 bool isOn(const QString &key);
-/// The choice that the switch selects as it goes on: "On", or else the third level. May be null.
-OptionChoice *onChoice(const bOption &option);
-QString levelKey(int level);
 /// Where the list stands for a stored key: at its level, else at the third one, or at the last of
 /// fewer.
 int levelToShow(const bOption &option, const QString &key);
-/// What is stored.
-QString settingFor(const bOption &option, bool on, int level);
+/// The choice that switch and list stand for together, with `level` the row of the list; null if
+/// the printer has none. This is what the option is set to and what is stored.
+OptionChoice *shownChoice(const bOption &option, bool on, int level);
 
 } // namespace LeanPrint

@@ -159,7 +159,10 @@ void PrinterTab::fillStatusColumn()
 void PrinterTab::reloadPrinterTable()
 {
     const QSignalBlocker silent(printerTable);
-    const int row = printerTable->currentRow();
+    // A queue with two rows keeps the one that was selected.
+    const QStringList listed = listedQueues();
+    const QString selected = listed.value(printerTable->currentRow());
+    const int which = printerTable->currentRow() - listed.indexOf(selected);
     int widths[ColumnCount];
     for (int column = 0; column < ColumnCount; ++column)
         widths[column] = printerTable->columnWidth(column);
@@ -171,7 +174,11 @@ void PrinterTab::reloadPrinterTable()
     fillTable();
     for (int column = 0; column < ColumnCount; ++column)
         printerTable->setColumnWidth(column, widths[column]);
-    printerTable->selectRow(row);
+    const int row = listedQueues().indexOf(selected);
+    if (selected.isEmpty() || row < 0)
+        printerTable->setCurrentCell(-1, -1);
+    else
+        printerTable->selectRow(row + which);
 
     setBoundSignalsBlocked(false);
 }
@@ -183,6 +190,7 @@ void PrinterTab::clearPrinterSelection()
     // So that a click selects any row again, also the one that was current.
     printerTable->setCurrentCell(-1, -1);
     removeInstalledOptions();
+    rootWarning->hide();
     printerTable->verticalScrollBar()->setValue(0);
     installedHeader->setEnabled(false);
 }
