@@ -348,18 +348,13 @@ void TestTab::forcedMoves()
     QVERIFY(!panel.page->bound("Media")->signalsBlocked());
     QCOMPARE(blockedValues(*currentStore), QString("Media=Plain Other=B Skip=True"));
 
-    // The pass that it starts may move it again.
+    // The page is in the midst of it: whoever asks it again has to wait for the next pass.
     selectValues(*currentStore, "Force=Back");
     panel.page->enableOptions();
-    panel.dialog.remark = [&] {
-        selectValues(*currentStore, "Force=Back");
-        panel.page->enableOptions();
-        return QString();
-    };
+    panel.dialog.remark = [&] { return QString::number(panel.page->enableOptions()); };
     selectValues(*currentStore, "Force=On");
-    panel.page->enableOptions();
-    QCOMPARE(panel.page->shown("Skip") + ' ' + RecordingDialog::current("Skip"),
-             QString("on disabled True"));
+    QVERIFY(panel.page->enableOptions());
+    QCOMPARE(panel.dialog.takeCalls().last(), QString("setConstraints 0"));
 
     // With nothing left to choose the value no longer stands in the way of others.
     panel.load("Force 1 Off On; Media 99 Plain* Thick; Other 99 A B; "
