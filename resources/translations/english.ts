@@ -122,6 +122,10 @@ Reloading list now.</translation>
         <source>Error: Printer does not exist or lpoptions failed.</source>
         <translation>Error: Printer does not exist or lpoptions failed.</translation>
     </message>
+    <message>
+        <source>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</source>
+        <translation>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</translation>
+    </message>
 </context>
 <context>
     <name>BookletTab</name>
@@ -649,6 +653,14 @@ For example: %1</translation>
     <message>
         <source>Could not authorize.</source>
         <translation>Could not authorize.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be handed to the program that changes the printer: only letters, digits and %2 can.</source>
+        <translation>&quot;%1&quot; can&apos;t be handed to the program that changes the printer: only letters, digits and %2 can.</translation>
+    </message>
+    <message>
+        <source>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</source>
+        <translation>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</translation>
     </message>
 </context>
 <context>

@@ -122,6 +122,10 @@ La liste va être rechargée.</translation>
         <source>Error: Printer does not exist or lpoptions failed.</source>
         <translation>Erreur : l&apos;imprimante n&apos;existe pas ou lpoptions a échoué.</translation>
     </message>
+    <message>
+        <source>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</source>
+        <translation>Le dossier %1 est un lien ou appartient à quelqu’un d’autre (%2). Vos paramètres n’y sont ni lus ni enregistrés. Demandez à un administrateur de le supprimer ou de vous en rendre propriétaire.</translation>
+    </message>
 </context>
 <context>
     <name>BookletTab</name>
@@ -649,6 +653,14 @@ Par exemple : %1</translation>
     <message>
         <source>Could not authorize.</source>
         <translation>Échec de l&apos;autorisation.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be handed to the program that changes the printer: only letters, digits and %2 can.</source>
+        <translation>« %1 » ne peut pas être transmis au programme qui modifie l’imprimante : seuls les lettres, les chiffres et %2 sont possibles.</translation>
+    </message>
+    <message>
+        <source>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</source>
+        <translation>Le programme %1 est introuvable. Un administrateur doit l’installer dans un dossier du chemin de recherche de root, par exemple /usr/sbin.</translation>
     </message>
 </context>
 <context>

@@ -122,6 +122,10 @@ Die Liste wird neu geladen.</translation>
         <source>Error: Printer does not exist or lpoptions failed.</source>
         <translation>Fehler: Der Drucker existiert nicht oder lpoptions ist fehlgeschlagen.</translation>
     </message>
+    <message>
+        <source>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</source>
+        <translation>Der Ordner %1 ist ein Verweis oder gehört jemand anderem (%2). Ihre Einstellungen werden weder von dort gelesen noch dort gespeichert. Bitten Sie einen Administrator, ihn zu entfernen oder Ihnen zu übereignen.</translation>
+    </message>
 </context>
 <context>
     <name>BookletTab</name>
@@ -649,6 +653,14 @@ Zum Beispiel: %1</translation>
     <message>
         <source>Could not authorize.</source>
         <translation>Autorisierung fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be handed to the program that changes the printer: only letters, digits and %2 can.</source>
+        <translation>„%1“ kann dem Programm, das den Drucker ändert, nicht übergeben werden: nur Buchstaben, Ziffern und %2 sind möglich.</translation>
+    </message>
+    <message>
+        <source>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</source>
+        <translation>Das Programm %1 fehlt. Ein Administrator muss es in einem Ordner aus dem Suchpfad von root installieren, etwa in /usr/sbin.</translation>
     </message>
 </context>
 <context>

@@ -122,6 +122,10 @@ L&apos;elenco viene ricaricato.</translation>
         <source>Error: Printer does not exist or lpoptions failed.</source>
         <translation>Errore: la stampante non esiste o lpoptions non è riuscito.</translation>
     </message>
+    <message>
+        <source>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</source>
+        <translation>La cartella %1 è un collegamento o appartiene a qualcun altro (%2). Le impostazioni non vengono né lette da essa né salvate in essa. Chiedere a un amministratore di rimuoverla o di assegnarla al proprio utente.</translation>
+    </message>
 </context>
 <context>
     <name>BookletTab</name>
@@ -649,6 +653,14 @@ Ad esempio: %1</translation>
     <message>
         <source>Could not authorize.</source>
         <translation>Autorizzazione non riuscita.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be handed to the program that changes the printer: only letters, digits and %2 can.</source>
+        <translation>&quot;%1&quot; non può essere passato al programma che modifica la stampante: sono ammessi solo lettere, cifre e %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</source>
+        <translation>Manca il programma %1. Un amministratore deve installarlo in una cartella del percorso di ricerca di root, ad esempio /usr/sbin.</translation>
     </message>
 </context>
 <context>

@@ -122,6 +122,10 @@ A lista vai ser recarregada.</translation>
         <source>Error: Printer does not exist or lpoptions failed.</source>
         <translation>Erro: a impressora não existe ou o lpoptions falhou.</translation>
     </message>
+    <message>
+        <source>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</source>
+        <translation>A pasta %1 é uma ligação ou pertence a outra pessoa (%2). As suas definições não são lidas dela nem guardadas nela. Peça a um administrador que a remova ou que o torne proprietário dela.</translation>
+    </message>
 </context>
 <context>
     <name>BookletTab</name>
@@ -649,6 +653,14 @@ Por exemplo: %1</translation>
     <message>
         <source>Could not authorize.</source>
         <translation>Não foi possível autorizar.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be handed to the program that changes the printer: only letters, digits and %2 can.</source>
+        <translation>&quot;%1&quot; não pode ser passado ao programa que altera a impressora: só são possíveis letras, algarismos e %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</source>
+        <translation>Falta o programa %1. Um administrador tem de o instalar numa pasta do caminho de procura de root, por exemplo /usr/sbin.</translation>
     </message>
 </context>
 <context>

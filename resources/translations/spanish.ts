@@ -122,6 +122,10 @@ Se volverá a cargar la lista.</translation>
         <source>Error: Printer does not exist or lpoptions failed.</source>
         <translation>Error: la impresora no existe o lpoptions ha fallado.</translation>
     </message>
+    <message>
+        <source>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</source>
+        <translation>La carpeta %1 es un enlace o pertenece a otra persona (%2). Sus ajustes no se leen de ella ni se guardan en ella. Pida a un administrador que la elimine o que le haga su propietario.</translation>
+    </message>
 </context>
 <context>
     <name>BookletTab</name>
@@ -649,6 +653,14 @@ Por ejemplo: %1</translation>
     <message>
         <source>Could not authorize.</source>
         <translation>No se pudo autorizar.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be handed to the program that changes the printer: only letters, digits and %2 can.</source>
+        <translation>&quot;%1&quot; no puede pasarse al programa que modifica la impresora: solo se admiten letras, cifras y %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</source>
+        <translation>Falta el programa %1. Un administrador debe instalarlo en una carpeta de la ruta de búsqueda de root, por ejemplo /usr/sbin.</translation>
     </message>
 </context>
 <context>

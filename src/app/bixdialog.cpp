@@ -10,6 +10,7 @@
 #include "pages/imaging/imagingtab.h"
 #include "pages/printer/printertab.h"
 #include "privileged/passwordprompt.h"
+#include "storage/ownfile.h"
 #include "storage/settingsfile.h"
 #include "widgets/bixbuttongroup.h"
 #include "widgets/bixtabwidget.h"
@@ -39,7 +40,10 @@ BixDialog::BixDialog(QWidget *parent)
 {
     userDir = userDirectory();
     refuseRoot(windowTitle());
-    askAboutCollection();
+    if (OwnFile::isOwnDirectory(userDir))
+        askAboutCollection();
+    else
+        tellOfForeignDirectory();
 
     setFixedSize(800, 735);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -70,6 +74,22 @@ void BixDialog::refuseRoot(const QString &title)
     box.setText(tr("Please do not run %1 as root.").arg(title));
     box.exec();
     std::exit(0);
+}
+
+void BixDialog::tellOfForeignDirectory()
+{
+    QString directory = userDir;
+    if (directory.endsWith(QLatin1Char('/')))
+        directory.chop(1);
+    QMessageBox box;
+    box.setWindowTitle(tr("Press Desk"));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(
+        tr("The folder %1 is a link, or it belongs to somebody else (%2). Your settings are "
+           "neither read from it nor saved in it. Ask an administrator to remove it or to "
+           "make you its owner.")
+            .arg(directory, OwnFile::ownerName(userDir)));
+    box.exec();
 }
 
 void BixDialog::askAboutCollection()
@@ -145,7 +165,8 @@ void BixDialog::printerChanged(int row, int, int previousRow, int)
     profileChanged();
     reloadPrinterTab = false;
     // First contact: publish the defaults, as they are before any conflict is worked out.
-    if (!cfgExists(printer))
+    // Where nothing can be saved every contact would be the first.
+    if (!cfgExists(printer) && OwnFile::isOwnDirectory(userDir))
         writeTolpoptions();
     setConstraints();
     if (currentStore) {

@@ -60,6 +60,7 @@ protected:
 
 private:
     static void refuseRoot(const QString &title);
+    static void tellOfForeignDirectory();
     void askAboutCollection();
     void setBackground();
     void createPages();

@@ -25,7 +25,7 @@ bool Publication::run(const QString &printer, const Settings &settings)
 {
     auto ppd = std::make_unique<QueuePpd>(printer);
     // Without a PPD nothing can be published, and nobody should believe that it was.
-    if (!ppd->isOpen())
+    if (!ppd->isOpen() || !isOneWord(printer))
         return false;
     processes.push_back(std::make_unique<QProcess>());
     if (runCommand(processes.back().get(), command(printer, ppd->optionKeywords(), settings)))

@@ -1,5 +1,6 @@
 #include "app/telemetrydialog.h"
 
+#include "storage/ownfile.h"
 #include "storage/settingsfile.h"
 
 #include <QDialogButtonBox>
@@ -70,8 +71,8 @@ TelemetryDialog::TelemetryDialog(QWidget *parent)
 
 bool TelemetryDialog::isTelemetryOn() const
 {
-    QFile settings(settingsPath());
-    if (!settings.open(QIODevice::ReadOnly))
+    QFile settings;
+    if (!OwnFile::openToRead(&settings, settingsPath()))
         return true;
     return settings.readAll().contains(consent.data());
 }
@@ -84,9 +85,9 @@ int TelemetryDialog::exec()
 
 void TelemetryDialog::accept()
 {
-    QFile settings(settingsPath());
+    QFile settings;
     // Not truncated: other entries may stand below.
-    if (settings.open(QIODevice::ReadWrite)) {
+    if (OwnFile::openToWrite(&settings, settingsPath(), false)) {
         QTextStream stream(&settings);
         stream << (yesButton->isChecked() ? consent : refusal) << '\n';
     }

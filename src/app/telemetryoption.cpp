@@ -1,10 +1,12 @@
 #include "app/telemetryoption.h"
 
+#include "storage/ownfile.h"
 #include "storage/settingsfile.h"
 
 #include <QFile>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
@@ -25,13 +27,22 @@ const char *lineForAnswer(std::string_view answer)
     return nullptr;
 }
 
-/// Replaces the "Settings" file by the answer. The directory is made for any answer.
-void record(std::string_view answer)
+/// Replaces the "Settings" file by the answer. The directory is made for any answer. False if the
+/// file, or the directory, is somebody else's: root must not write there for them.
+bool record(std::string_view answer)
 {
-    QFile settings(settingsPath());
+    const QString path = settingsPath();
     const char *line = lineForAnswer(answer);
-    if (line && settings.open(QIODevice::ReadWrite | QIODevice::Truncate))
+    if (!line)
+        return true;
+    if (OwnFile::isForeign(path)) {
+        std::fprintf(stderr, "%s is no file of your own: nothing is written\n", qPrintable(path));
+        return false;
+    }
+    QFile settings;
+    if (OwnFile::openToWrite(&settings, path, true))
         settings.write(line);
+    return true;
 }
 
 } // namespace
@@ -46,6 +57,5 @@ void runTelemetryOption(int argc, char **argv)
     if (answer == end)
         std::exit(0);
 
-    record(*answer);
-    std::exit(0);
+    std::exit(record(*answer) ? 0 : 1);
 }

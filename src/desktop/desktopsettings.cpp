@@ -81,6 +81,8 @@ QString DesktopSettingsExporter::patternFor(const QString &path) const
 
 void DesktopSettingsExporter::findFiles()
 {
+    if (!isOneWord(home))
+        return;
     QProcess find;
     startCommand(&find, QStringLiteral("find ") + home);
     while (waitForLine(&find)) {
@@ -88,7 +90,7 @@ void DesktopSettingsExporter::findFiles()
         line.chop(1);
         const QString path = QFile::decodeName(line);
         const QString pattern = patternFor(path);
-        if (!pattern.isNull())
+        if (!pattern.isNull() && isOneWord(path))
             foundFiles.insert(pattern, path);
     }
     find.close();

@@ -10,6 +10,7 @@
 #include <QFile>
 
 #include <cstring>
+#include <unistd.h>
 
 namespace {
 
@@ -81,6 +82,16 @@ void importGroupConstraints(ppd_file_t *ppd, OptionStore *store)
     addFixedGroupRules(store);
 }
 
+std::unique_ptr<OptionStore> importAndClose(ppd_file_t *ppd)
+{
+    if (!ppd)
+        return nullptr;
+    auto store = std::make_unique<OptionStore>();
+    importPpd(ppd, store.get());
+    ppdClose(ppd);
+    return store;
+}
+
 } // namespace
 
 void importPpd(ppd_file_t *ppd, OptionStore *store)
@@ -105,11 +116,10 @@ void importPpd(ppd_file_t *ppd, OptionStore *store)
 
 std::unique_ptr<OptionStore> importPpdFile(const QString &path)
 {
-    ppd_file_t *ppd = ppdOpenFile(QFile::encodeName(path).constData());
-    if (!ppd)
-        return nullptr;
-    auto store = std::make_unique<OptionStore>();
-    importPpd(ppd, store.get());
-    ppdClose(ppd);
-    return store;
+    return importAndClose(ppdOpenFile(QFile::encodeName(path).constData()));
+}
+
+std::unique_ptr<OptionStore> importPpdFile(int descriptor)
+{
+    return importAndClose(ppdOpenFd(dup(descriptor))); // which it closes
 }

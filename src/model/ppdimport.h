@@ -14,5 +14,7 @@ class QString;
 /// and closes the PPD; null is not handled. Reports nothing: what a PPD lacks is simply not there.
 void importPpd(ppd_file_t *ppd, OptionStore *store);
 
-/// A new store filled from a PPD file; null if libcups can't open it.
+/// A new store filled from a PPD file; null if libcups can't open it. The second form takes an open
+/// file, which stays open.
 std::unique_ptr<OptionStore> importPpdFile(const QString &path);
+std::unique_ptr<OptionStore> importPpdFile(int descriptor);

@@ -75,9 +75,13 @@ void PasswordPrompt::reject()
 
 void PasswordPrompt::okButtonSlot()
 {
-    if (!PpdWriter::areHarmless(printerName(), ppdArguments)) {
+    QString culprit;
+    if (!PpdWriter::areHarmless(printerName(), ppdArguments, &culprit)) {
         // The shell would make something else of these, as root. No password justifies that.
-        showFailure();
+        showFailure(tr("Could not authorize.") + QLatin1Char('\n') +
+                    tr("\"%1\" can't be handed to the program that changes the printer: only "
+                       "letters, digits and %2 can.")
+                        .arg(culprit, QStringLiteral("_-.+@:,/%=")));
         close();
         return;
     }
@@ -85,8 +89,12 @@ void PasswordPrompt::okButtonSlot()
     PpdWriter::run(forgetCommand);
     const int status = runPpdWriter(password, prefixOf(methodCombo->currentText()), ppdArguments);
     cleanse(&password);
-    if (status != 0)
-        showFailure();
+    if (status != 0 && !PpdWriter::isToolInstalled())
+        showFailure(tr("The program %1 is missing. An administrator has to install it in a folder "
+                       "of root's search path, such as /usr/sbin.")
+                        .arg(QLatin1String(PpdWriter::tool)));
+    else if (status != 0)
+        showFailure(tr("Could not authorize."));
     else
         finishApply();
     PpdWriter::run(forgetCommand);
@@ -110,11 +118,12 @@ int PasswordPrompt::runPpdWriter(const QString &password, const QString &prefix,
     return status;
 }
 
-void PasswordPrompt::showFailure()
+void PasswordPrompt::showFailure(const QString &text)
 {
     QMessageBox box(this);
     box.setWindowTitle(tr("Error"));
-    box.setText(tr("Could not authorize."));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
     box.exec();
 }
 

@@ -37,7 +37,7 @@ private:
     void createLayout();
     QString takePassword();
     int runPpdWriter(const QString &password, const QString &prefix, const QString &arguments);
-    void showFailure();
+    void showFailure(const QString &text);
     void finishApply();
 
     UntraceableProcess untraceable;

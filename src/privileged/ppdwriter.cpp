@@ -3,6 +3,7 @@
 #include "privileged/secretmemory.h"
 
 #include <QFile>
+#include <QStandardPaths>
 #include <QStringList>
 #include <QTextStream>
 
@@ -30,15 +31,35 @@ bool isHarmless(const QString &word)
 
 namespace PpdWriter {
 
-bool areHarmless(const QString &printer, const QString &arguments)
+bool areHarmless(const QString &printer, const QString &arguments, QString *culprit)
 {
+    const auto refuse = [culprit](const QString &word) {
+        if (culprit)
+            *culprit = word;
+        return false;
+    };
+    if (!isHarmless(printer) || printer.startsWith(QLatin1Char('-')))
+        return refuse(printer);
     QStringList pairs = arguments.split(QLatin1Char(' '));
-    pairs.removeLast(); // what is behind the last blank
-    return isHarmless(printer) && (arguments.isEmpty() || arguments.endsWith(QLatin1Char(' '))) &&
-           std::all_of(pairs.begin(), pairs.end(), [](const QString &pair) {
-               // A pair with a blank in it falls apart into words without one.
-               return isHarmless(pair) && pair.indexOf(QLatin1Char('=')) > 0;
-           });
+    const QString rest = pairs.takeLast(); // what is behind the last blank
+    if (!rest.isEmpty())
+        return refuse(rest);
+    for (const QString &pair : qAsConst(pairs)) {
+        // A pair with a blank in it falls apart into words without a "=".
+        if (!isHarmless(pair) || pair.indexOf(QLatin1Char('=')) <= 0)
+            return refuse(pair);
+    }
+    return true;
+}
+
+bool isToolInstalled()
+{
+    const QStringList usual{QStringLiteral("/usr/local/sbin"), QStringLiteral("/usr/local/bin"),
+                            QStringLiteral("/usr/sbin"),       QStringLiteral("/usr/bin"),
+                            QStringLiteral("/sbin"),           QStringLiteral("/bin")};
+    const QString name = QLatin1String(tool);
+    return !QStandardPaths::findExecutable(name).isEmpty() ||
+           !QStandardPaths::findExecutable(name, usual).isEmpty();
 }
 
 QByteArray commandLine(const QString &password, const QString &prefix, const QString &printer,
@@ -46,8 +67,8 @@ QByteArray commandLine(const QString &password, const QString &prefix, const QSt
 {
     const bool sudo = prefix.contains(QLatin1String("sudo"));
     QByteArray secret = password.toLocal8Bit();
-    const QByteArray tail = "\" | " + prefix.toUtf8() + (sudo ? "" : " \"") + " bixPPDWrite_F '" +
-                            printer.toUtf8() + "' " + arguments.toUtf8() +
+    const QByteArray tail = "\" | " + prefix.toUtf8() + (sudo ? "" : " \"") + ' ' +
+                            QByteArray(tool) + " '" + printer.toUtf8() + "' " + arguments.toUtf8() +
                             (sudo ? " 2>&1 >/dev/null" : "\"");
     const QByteArray head = " echo \"";
     QByteArray line;

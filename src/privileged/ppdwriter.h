@@ -9,9 +9,15 @@
 /// and ends with 0. It has to be on the search path that root gets.
 namespace PpdWriter {
 
-/// True if the shell takes printer and pairs for what they are: letters, digits and
-/// "_-.+@:,/%=" alone, and every pair with a "=". `arguments`: the pairs, a blank after each.
-bool areHarmless(const QString &printer, const QString &arguments);
+constexpr char tool[] = "bixPPDWrite_F";
+
+/// True if shell and tool take printer and pairs for what they are: letters, digits and
+/// "_-.+@:,/%=" alone, no "-" in front of the printer, and every pair with a "=". `arguments`: the
+/// pairs, a blank after each. Else `culprit` is what they don't, if it is given.
+bool areHarmless(const QString &printer, const QString &arguments, QString *culprit = nullptr);
+
+/// Whether the tool lies where root's search path usually leads, or this user's.
+bool isToolInstalled();
 
 /// The shell line. The password stands between double quotes as it is, so the shell acts on
 /// quotes, dollar signs, backslashes and backquotes in it.

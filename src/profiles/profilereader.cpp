@@ -8,9 +8,10 @@
 #include "model/ppdimport.h"
 #include "profiles/profilerules.h"
 #include "profiles/profilestore.h"
+#include "storage/ownfile.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
+#include <QFile>
 #include <QTextStream>
 
 #include <algorithm>
@@ -30,6 +31,7 @@ struct TreeRow
 };
 
 const QLatin1String descriptionKeyword("ProfileDescription");
+constexpr qint64 largestPpd = 8 << 20; // bytes
 constexpr char genericKeyword[] = "Generic";
 constexpr char policyKeyword[] = "FKP_enabled";
 
@@ -178,8 +180,9 @@ bool namesModel(const QString &line)
 
 std::unique_ptr<OptionStore> importModel(const QString &modelLine)
 {
-    const QString path = profilePpdPath(modelLine);
-    return QFileInfo(path).isFile() ? importPpdFile(path) : nullptr;
+    QFile ppd;
+    const bool counts = OwnFile::openToRead(&ppd, profilePpdPath(modelLine), largestPpd);
+    return counts ? importPpdFile(ppd.handle()) : nullptr;
 }
 
 struct Entry

@@ -1,6 +1,7 @@
 #include "profiles/profilestore.h"
 
 #include "storage/command.h"
+#include "storage/ownfile.h"
 #include "storage/settingsfile.h"
 
 #include <QDir>
@@ -12,7 +13,6 @@
 namespace {
 
 constexpr int mostProfiles = 25;
-constexpr qint64 longestProfile = 1 << 20; // bytes
 
 const QLatin1String mark("[Profile]");
 const QLatin1String ending(".cfg");
@@ -90,11 +90,8 @@ bool isProfileStoreFull()
 
 QByteArray readProfileText(const QString &path)
 {
-    QFile file(path);
-    // A pipe or a device, be it behind a link, would hold up the panel for ever.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return QByteArray();
-    return file.read(longestProfile);
+    QFile file;
+    return OwnFile::openToRead(&file, path) ? file.readAll() : QByteArray();
 }
 
 void removeProfile(const QString &path)
@@ -104,20 +101,20 @@ void removeProfile(const QString &path)
 
 void rewriteProfile(const QString &oldName, const QString &newName, const QString &description)
 {
-    QFile from(cfgPath(oldName));
-    QFile to(userDir + newName + QStringLiteral(".tmp"));
-    if (!QFileInfo(from).isFile() || !from.open(QIODevice::ReadOnly) ||
-        !to.open(QIODevice::WriteOnly))
+    const QString copyPath = userDir + newName + QStringLiteral(".tmp");
+    QFile from;
+    QFile copy;
+    if (!OwnFile::openToRead(&from, cfgPath(oldName)) ||
+        !OwnFile::openToWrite(&copy, copyPath, true))
         return;
     // With a full disk the profile is worth more than its new description.
-    if (!copyWithDescription(&from, &to, description.toUtf8())) {
-        to.remove();
+    if (!copyWithDescription(&from, &copy, description.toUtf8())) {
+        QFile::remove(copyPath);
         return;
     }
-    from.remove();
-    to.close();
-    run(QStringLiteral("mv ") + quoted(to.fileName()) + QLatin1Char(' ') +
-        quoted(cfgPath(newName)));
+    QFile::remove(cfgPath(oldName));
+    copy.close();
+    run(QStringLiteral("mv ") + quoted(copyPath) + QLatin1Char(' ') + quoted(cfgPath(newName)));
 }
 
 QStringList queuesWithPpd()

@@ -2,6 +2,11 @@
 
 #include <QProcess>
 
+bool isOneWord(const QString &text)
+{
+    return QProcess::splitCommand(text) == QStringList(text);
+}
+
 void startCommand(QProcess *process, const QString &command)
 {
     QStringList arguments = QProcess::splitCommand(command);

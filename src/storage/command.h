@@ -6,10 +6,22 @@ class QString;
 /// External commands that the panel runs and waits for.
 ///
 /// A command is a program and its arguments in one text, split at blanks; double quotes keep blanks
-/// together and vanish. No shell is involved.
+/// together and vanish. No shell is involved. These are all, with what each may hold:
+///
+///     lpoptions -p QUEUE -o KEY=VALUE ...   a queue that is one word; keys and values of the
+///     user's find HOME                             a home directory that is one word rm -f PATH,
+///     cp PATH.tmp PATH          below the home directory, one word rm -f "PATH", mv "PATH" "PATH"
+///     profiles, double quotes in them tripled
+///
+/// What is to be one word and isn't, by isOneWord(), is passed over. lpstat and the root-only tool
+/// go through a shell: see PrinterStatus and PpdWriter.
 
 /// How long the panel waits for a command, in ms.
 constexpr int longestCommandWait = 30000;
+
+/// Whether a text comes out of the splitting as it went in: others could have named a file so that
+/// its pieces are arguments of their own.
+bool isOneWord(const QString &text);
 
 /// Starts the command with its input and output connected. A command that can't be started leaves
 /// the process not running.

@@ -1,6 +1,7 @@
 #include "storage/settingsfile.h"
 
 #include "model/optionstore.h"
+#include "storage/ownfile.h"
 
 #include <QDir>
 #include <QFile>
@@ -29,9 +30,10 @@ void makeDirectory(const QByteArray &path)
 /// false or the file ends.
 void forEachValue(const QString &key, const std::function<bool(const QString &)> &use)
 {
-    QFile file(currentCfgPath);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    QFile file;
+    if (!OwnFile::openToRead(&file, currentCfgPath))
         return;
+    file.setTextModeEnabled(true);
     QTextStream stream(&file);
     stream.setCodec("UTF-8");
     while (!stream.atEnd()) {
@@ -61,10 +63,12 @@ void writeFile(const QString &path, const Settings &settings, Heading heading,
                const QString *description)
 {
     ensureUserDir();
+    if (!OwnFile::isOwnDirectory(userDir))
+        return;
     unlink(QFile::encodeName(path).constData());
-    QFile file(path);
+    QFile file;
     // In a folder that can't be written to, the old file is still there and must not show through.
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Truncate))
+    if (!OwnFile::openToWrite(&file, path, true))
         return;
     QTextStream stream(&file);
     stream.setCodec("UTF-8");
@@ -149,11 +153,13 @@ QStringList readSettingValues(const QString &key)
 
 bool updateSetting(const QString &key, const QString &value)
 {
-    QFile settings(settingsPath());
-    QFile temporary(settings.fileName() + QStringLiteral("_tmp"));
+    const QString path = settingsPath();
+    const QString temporaryPath = path + QStringLiteral("_tmp");
+    QFile settings;
+    QFile temporary;
     // Both are tried whatever becomes of the first, so a lone empty copy may stay behind.
-    const bool readable = settings.open(QIODevice::ReadOnly);
-    const bool writable = temporary.open(QIODevice::WriteOnly);
+    const bool readable = OwnFile::openToRead(&settings, path);
+    const bool writable = OwnFile::openToWrite(&temporary, temporaryPath, true);
     if (!readable || !writable)
         return false;
 
@@ -175,9 +181,9 @@ bool updateSetting(const QString &key, const QString &value)
     temporary.close();
     // With a full disk the old file is worth more than half a new one.
     if (out.status() != QTextStream::Ok || temporary.error() != QFileDevice::NoError) {
-        temporary.remove();
+        QFile::remove(temporaryPath);
         return false;
     }
-    return std::rename(QFile::encodeName(temporary.fileName()).constData(),
-                       QFile::encodeName(settings.fileName()).constData()) == 0;
+    return std::rename(QFile::encodeName(temporaryPath).constData(),
+                       QFile::encodeName(path).constData()) == 0;
 }

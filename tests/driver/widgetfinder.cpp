@@ -60,14 +60,15 @@ QWidget *find(const QString &word, bool visible)
 int depth(const QWidget *window)
 {
     if (window->windowType() == Qt::ToolTip)
-        return 4;
+        return 5;
     if (window == QApplication::activePopupWidget())
         return 0;
     if (window == QApplication::activeModalWidget())
         return 1;
     if (window == QApplication::activeWindow())
         return 2;
-    return window->isVisible() ? 3 : 4;
+    // A window may be shown before it is active.
+    return !window->isVisible() ? 5 : window->isModal() ? 3 : 4;
 }
 
 } // namespace

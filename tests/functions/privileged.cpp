@@ -59,6 +59,7 @@ void TestPrivileged::harmlessWords()
     for (const char *pairs : {"A ", "=1 ", "A=Two words ", "A=1  ", "A=1"})
         QVERIFY2(!PpdWriter::areHarmless("Queue1", pairs), pairs);
     QVERIFY(!PpdWriter::areHarmless("", "A=1 "));
+    QVERIFY(!PpdWriter::areHarmless("-o", "A=1 ")); // an option of the tool
     const QString dangerous =
         QString("'\"`$\\;&|<>()[]{}*?!#~^\n\r\t \u00a0\u2028") + QChar(0) + QChar(0xd83d);
     for (const QChar sign : dangerous)

@@ -54,7 +54,7 @@ void TestProfileReader::rubbish_data()
     row("equals signs", QByteArray(5000, '='), "", "");
     row("line feeds and zeros", QByteArray("\n\0\n", 3).repeated(5000), "", "");
     row("no text", QByteArray("\xff\xfe\xc3[\xed\xa0\x80]=").repeated(999), "", "");
-    row("one line larger than any profile", QByteArray(3 << 20, 'x') + "\nA=1", "", "");
+    row("one line larger than any profile", QByteArray(5 << 20, 'x') + "\nA=1", "", "");
     // Each PPD is read once, or this would take minutes.
     row("many models", QByteArray("[Brixola PX-4500]\n[Brixola MX-210]\n").repeated(29999), "", "");
     const QByteArray profile = "[Brixola Rubbish]\nPageSize=A4\n";

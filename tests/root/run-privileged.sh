@@ -112,7 +112,7 @@ play()
     # Queue names are read from /etc/cups/ppd, so the scheduler's folder has to be that one.
     as_user env --ignore-environment PATH=/usr/local/bin:/usr/bin:/bin \
         LANG=C.UTF-8 HOME="$dir/home" USER="$user" LOGNAME="$user" PRESSDESK_SANDBOX="$dir" \
-        QT_HASH_SEED=0 "$checkout/demo/printserver.sh" serve "$server" "$player" "$@" \
+        QT_HASH_SEED=0 PRESSDESK_BUILD_DIR="$build" "$checkout/demo/printserver.sh" serve "$server" "$player" "$@" \
         "$here/privileged.case"
 }
 
