@@ -183,6 +183,10 @@ void PublishingTab::reload()
     loadCover();
     loadPageInsert();
     loadInterleaving();
+    // The option store follows what was loaded since, unless interleaving is on beside one of the
+    // others: it would switch one off, and the user is to be told instead.
+    if (!isOn(Interleaving) || !(isOn(Cover) || isOn(PageInsert)))
+        applyAllWidgets();
     BlockAllSignals(false);
 }
 
