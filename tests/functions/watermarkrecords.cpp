@@ -11,6 +11,7 @@ private slots:
     void lines_data();
     void lines();
     void quotedText();
+    void builtInTexts();
 };
 
 void TestWatermarkRecords::lines_data()
@@ -48,6 +49,22 @@ void TestWatermarkRecords::quotedText()
     const QString quoted = Watermark::quotedText("a@b$c#d!e f! !!! 🔒");
     QCOMPARE(quoted, QString("\"a\\@b\\$c\\#d\\!e\\ f\\!\\ \\!\\!\\!\\ 🔒\""));
     QCOMPARE(Watermark::quotedText("a\\b\"c'd=e&f*"), QString("\"a\\b\"c'd=e&f*\"")); // stays
+}
+
+void TestWatermarkRecords::builtInTexts()
+{
+    const QString ppd = fileText(PRESSDESK_SOURCE_DIR "/demo/ppd/px4500.ppd");
+    int count = 0;
+    for (const QString &line : ppd.split('\n')) {
+        if (!line.startsWith("*Wtxt "))
+            continue;
+        const QString text = line.section('/', 1).section(':', 0, 0);
+        QVERIFY2(Watermark::isBuiltInText(text), qPrintable(text));
+        ++count;
+    }
+    QCOMPARE(count, 7);
+    for (const char *other : {"Draft", "draft", "DRAFT ", ""})
+        QVERIFY2(!Watermark::isBuiltInText(other), other);
 }
 
 static const FunctionTests::Entry<TestWatermarkRecords> entry;

@@ -22,17 +22,7 @@ bool CustomWatermarks::load()
 
 bool CustomWatermarks::isCustom(const QString &name) const
 {
-    return contains(name) && !Watermark::isBuiltInText(name);
-}
-
-QStringList CustomWatermarks::names() const
-{
-    QStringList names;
-    for (auto entry = looks.cbegin(); entry != looks.cend(); ++entry) {
-        if (isCustom(entry.key()))
-            names.append(entry.key());
-    }
-    return names;
+    return !name.isEmpty() && (contains(name) || !Watermark::isBuiltInText(name));
 }
 
 QString CustomWatermarks::savedSelection()

@@ -121,7 +121,15 @@ void WatermarkTab::selectSavedText()
         if (const bOption *option = findOption(textKeyword))
             name = Watermark::customText(option->currentKey());
     }
-    const int index = name.isEmpty() ? -1 : textIndex(name);
+    if (name.isEmpty())
+        return;
+    // A text of the printer's in another language, or of another printer, is still what is printed.
+    if (textIndex(name) < 0 && watermarkButton->isChecked() &&
+        readSetting(textKeyword) == Watermark::quotedText(name)) {
+        customWatermarks.insert(name, shownLook()); // as it was saved
+        rebuildTextList();
+    }
+    const int index = textIndex(name);
     if (index >= 0)
         text.box->setCurrentIndex(index);
 }

@@ -40,7 +40,8 @@ Record fromLine(const QString &line);
 /// take for its own, in double quotation marks. Marks within the text stay as they are.
 QString quotedText(const QString &text);
 
-/// True for a text that comes with every printer. PPDs have them in English in every language.
+/// True for a text that comes with every printer, in its usual words. A PPD may word or translate
+/// it otherwise; then it is a text of that printer's own.
 bool isBuiltInText(const QString &text);
 /// The text in a choice that stands for a custom value, "Custom.TEXT" (a CUPS PPD extension); empty
 /// for any other key, the names of the built-in texts among them.

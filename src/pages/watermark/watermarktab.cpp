@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegExpValidator>
+#include <QSet>
 #include <QSignalBlocker>
 
 #include <iterator>
@@ -144,30 +145,44 @@ int WatermarkTab::textIndex(const QString &name) const
     return text.box->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
 }
 
+int WatermarkTab::separatorIndex() const
+{
+    int separator = text.box->count() - 1;
+    while (separator >= 0 && !text.box->itemText(separator).isEmpty())
+        --separator;
+    return separator;
+}
+
 /// Silently; the selection stays if its text does.
 void WatermarkTab::rebuildTextList()
 {
     ComboBoxEx *box = text.box;
     const QSignalBlocker silent(box);
     const QString selected = box->currentText();
-    int separator = box->count() - 1;
-    while (separator >= 0 && !box->itemText(separator).isEmpty())
-        --separator;
+    const int separator = separatorIndex();
     if (separator >= 0) {
         while (box->count() > separator)
             box->removeItem(box->count() - 1);
     }
+    QSet<QString> printersTexts;
+    for (int i = 0; i < box->count(); ++i)
+        printersTexts.insert(box->itemText(i));
     box->insertSeparator(box->count());
     const QStringList names = customWatermarks.names();
-    for (const QString &name : names)
-        box->addItem(name, name);
+    for (const QString &name : names) {
+        // Even a built-in text is the user's own where the printer has it in other words.
+        if (!printersTexts.contains(name))
+            box->addItem(name, name);
+    }
     box->setCurrentIndex(textIndex(selected));
 }
 
 void WatermarkTab::handleWatermarkSelection(const QString &name)
 {
     const QString selected = text.box->currentText();
-    customEdit->setText(customWatermarks.isCustom(selected) ? name : QString());
+    const bool isBuiltIn =
+        Watermark::isBuiltInText(selected) && textIndex(selected) < separatorIndex();
+    customEdit->setText(customWatermarks.contains(selected) && !isBuiltIn ? name : QString());
     showLook(customWatermarks.look(selected, usualLook()));
     handleCustomWatermarkTextEdit();
     applySection();
@@ -330,9 +345,7 @@ QHash<QString, QString> WatermarkTab::collectSettings()
     if (findOption(superKeyword) && superButton->isEnabledTo(this) && !superButton->isChecked())
         savedSettings.insert(superKeyword, Keys::none);
     const QString selected = text.box->currentText();
-    const bool isBuiltIn =
-        Watermark::isBuiltInText(selected) && !customWatermarks.contains(selected);
-    if (findOption(textKeyword) && !selected.isEmpty() && !isBuiltIn)
+    if (findOption(textKeyword) && customWatermarks.isCustom(selected))
         savedSettings.insert(textKeyword, Watermark::quotedText(selected));
     return savedSettings;
 }
@@ -340,10 +353,11 @@ QHash<QString, QString> WatermarkTab::collectSettings()
 Settings WatermarkTab::extraSettings()
 {
     const QString selected = text.box->currentText();
-    const bool custom = customWatermarks.isCustom(selected);
-    if (custom && findOption(textKeyword))
+    // While the switch is off, the list stands on its first text and the look is nobody's.
+    if (watermarkButton->isChecked() && findOption(textKeyword) &&
+        customWatermarks.contains(selected))
         customWatermarks.insert(selected, shownLook());
     Settings settings;
-    customWatermarks.save(&settings, custom ? selected : QString());
+    customWatermarks.save(&settings, customWatermarks.isCustom(selected) ? selected : QString());
     return settings;
 }

@@ -59,6 +59,8 @@ private:
 
     void rebuildTextList();
     int textIndex(const QString &text) const;
+    /// The printer's texts stand before it, the user's own behind it; -1 if there is none.
+    int separatorIndex() const;
 
     Watermark::Look shownLook() const;
     void showLook(const Watermark::Look &look);
