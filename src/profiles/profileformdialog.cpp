@@ -1,5 +1,6 @@
 #include "profiles/profileformdialog.h"
 
+#include "pages/base/onelinevalidator.h"
 #include "profiles/profilerules.h"
 #include "profiles/profilestore.h"
 
@@ -8,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegExpValidator>
 #include <QTextEdit>
 
 namespace {
@@ -27,7 +27,7 @@ ProfileFormDialog::ProfileFormDialog(const QString &descriptionLabel, QWidget *p
     setWindowModality(Qt::WindowModal);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     // Characters here; how many bytes they take is part of the check.
-    nameEdit->setValidator(new QRegExpValidator(QRegExp(QStringLiteral(".{,251}")), nameEdit));
+    nameEdit->setValidator(new OneLineValidator(QStringLiteral(".{,251}"), nameEdit));
     descriptionEdit->setAcceptRichText(false);
     descriptionEdit->setMaximumSize(largestDescription);
     descriptionEdit->setTabChangesFocus(true);

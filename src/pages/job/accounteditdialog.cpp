@@ -1,11 +1,11 @@
 #include "pages/job/accounteditdialog.h"
 
+#include "pages/base/onelinevalidator.h"
 #include "pages/base/pagewidgets.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QRegExpValidator>
 #include <QVBoxLayout>
 
 using PageWidgets::named;
@@ -25,9 +25,8 @@ AccountEditDialog::AccountEditDialog(QWidget *list)
     PageWidgets::simplifyTitleBar(this);
     setWindowModality(Qt::WindowModal);
     idEdit->setMaxLength(longestId);
-    idEdit->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("[0-9]*")), idEdit));
-    descriptionEdit->setValidator(
-        new QRegExpValidator(QRegExp(QStringLiteral(".{,31}")), descriptionEdit));
+    idEdit->setValidator(new OneLineValidator(QStringLiteral("[0-9]*"), idEdit));
+    descriptionEdit->setValidator(new OneLineValidator(QStringLiteral(".{,31}"), descriptionEdit));
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(tr("Account ID:"), this));

@@ -6,6 +6,7 @@
 #include "model/sentinels.h"
 #include "pages/base/buttoncaption.h"
 #include "pages/base/errorlabel.h"
+#include "pages/base/onelinevalidator.h"
 #include "pages/base/pagewidgets.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
@@ -14,7 +15,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegExpValidator>
 #include <QSignalBlocker>
 
 using PageWidgets::named;
@@ -47,7 +47,7 @@ JobAccounting::JobAccounting(QWidget *page)
     , listButton(named(new QPushButton(page), "butAccountID"))
 {
     idEdit->setMaxLength(longestId);
-    idEdit->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("[0-9]*")), idEdit));
+    idEdit->setValidator(new OneLineValidator(QStringLiteral("[0-9]*"), idEdit));
     listButton->setAutoDefault(false); // Return elsewhere in the window is no click here
     for (QWidget *widget :
          std::initializer_list<QWidget *>{picture, selectLabel, idEdit, idBox, listButton})

@@ -5,13 +5,13 @@
 #include "model/optionstore.h"
 #include "pages/base/buttoncaption.h"
 #include "pages/base/errorlabel.h"
+#include "pages/base/onelinevalidator.h"
 #include "pages/base/pagewidgets.h"
 #include "pages/job/jobtexts.h"
 #include "widgets/bixcheckboxbutton.h"
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QRegExpValidator>
 
 using PageWidgets::named;
 using PageWidgets::withColon;
@@ -39,7 +39,7 @@ JobEmail::JobEmail(QWidget *page)
     , edit(named(new QLineEdit(page), "lnEditJobEmail"))
     , error(makeErrorLabel(page))
 {
-    edit->setValidator(new QRegExpValidator(QRegExp(allowed), edit));
+    edit->setValidator(new OneLineValidator(allowed, edit));
     JobEmail::setTexts();
 }
 

@@ -4,6 +4,7 @@
 #include "model/optionstore.h"
 #include "model/sentinels.h"
 #include "pages/base/buttoncaption.h"
+#include "pages/base/onelinevalidator.h"
 #include "pages/base/pagewidgets.h"
 #include "pages/job/jobtexts.h"
 #include "storage/secretsetting.h"
@@ -12,7 +13,6 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QRegExpValidator>
 
 using PageWidgets::named;
 using PageWidgets::withColon;
@@ -38,9 +38,9 @@ JobLogin::JobLogin(QWidget *page)
     , passwordEdit(named(new QLineEdit(page), "lnEditLoginPassword"))
 {
     nameEdit->setMaxLength(longestText);
-    nameEdit->setValidator(
-        new QRegExpValidator(QRegExp(QLatin1String(JobTexts::nameOfAtMost64)), nameEdit));
+    nameEdit->setValidator(new OneLineValidator(QLatin1String(JobTexts::nameOfAtMost64), nameEdit));
     passwordEdit->setMaxLength(longestText);
+    passwordEdit->setValidator(new OneLineValidator(QStringLiteral(".*"), passwordEdit));
     passwordEdit->setEchoMode(QLineEdit::Password);
     for (QWidget *dependent :
          std::initializer_list<QWidget *>{nameLabel, nameEdit, passwordLabel, passwordEdit})

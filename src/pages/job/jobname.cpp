@@ -3,6 +3,7 @@
 #include "model/boption.h"
 #include "model/optionstore.h"
 #include "pages/base/errorlabel.h"
+#include "pages/base/onelinevalidator.h"
 #include "pages/base/pagewidgets.h"
 #include "pages/job/jobtexts.h"
 #include "widgets/comboboxex.h"
@@ -10,7 +11,6 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QRegExpValidator>
 #include <QSignalBlocker>
 
 using PageWidgets::named;
@@ -46,8 +46,7 @@ JobName::JobName(QWidget *page)
     , overwriteBox(named(new ComboBoxEx(page), "cmbBxOverwrite"))
     , error(makeErrorLabel(page))
 {
-    edit->setValidator(
-        new QRegExpValidator(QRegExp(QLatin1String(JobTexts::nameOfAtMost64)), edit));
+    edit->setValidator(new OneLineValidator(QLatin1String(JobTexts::nameOfAtMost64), edit));
     overwriteBox->setMinimumWidth(200);
     JobName::setTexts();
 }

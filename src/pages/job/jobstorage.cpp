@@ -7,6 +7,7 @@
 #include "model/sentinels.h"
 #include "pages/base/buttoncaption.h"
 #include "pages/base/errorlabel.h"
+#include "pages/base/onelinevalidator.h"
 #include "pages/base/pagewidgets.h"
 #include "storage/secretsetting.h"
 #include "widgets/bixcheckboxbutton.h"
@@ -15,7 +16,6 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QRegExpValidator>
 #include <QSignalBlocker>
 
 using PageWidgets::named;
@@ -61,9 +61,10 @@ JobStorage::JobStorage(QWidget *page)
     codeEdit->setEchoMode(QLineEdit::Password);
     codeEdit->setMaxLength(longestCode);
     numberEdit->setMaxLength(longestNumber);
-    numberEdit->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("[0-9]*")), numberEdit));
+    numberEdit->setValidator(new OneLineValidator(QStringLiteral("[0-9]*"), numberEdit));
     passwordEdit->setEchoMode(QLineEdit::Password);
     passwordEdit->setMaxLength(longestPassword);
+    passwordEdit->setValidator(new OneLineValidator(QStringLiteral(".*"), passwordEdit));
 
     // Only the unchecked button stands for "None"; the list doesn't offer it.
     button->addDependent(box, tr("None"));

@@ -2,6 +2,7 @@
 
 #include "model/sentinels.h"
 #include "pages/base/errorlabel.h"
+#include "pages/base/onelinevalidator.h"
 #include "pages/base/pagewidgets.h"
 #include "pages/base/paneldialog.h"
 #include "storage/passwordcipher.h"
@@ -56,6 +57,8 @@ void UserLoginTab::createWidgets()
     passwordEdit->setEchoMode(QLineEdit::Password);
     passwordEdit->setMaxLength(longestText);
     passwordLabel->setBuddy(passwordEdit);
+    for (QLineEdit *edit : {nameEdit, passwordEdit})
+        edit->setValidator(new OneLineValidator(QStringLiteral(".*"), edit));
     errorLabel = makeErrorLabel(this);
     for (QWidget *widget :
          {static_cast<QWidget *>(nameLabel), static_cast<QWidget *>(nameEdit),

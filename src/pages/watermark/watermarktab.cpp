@@ -4,6 +4,7 @@
 #include "model/keys.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
+#include "pages/base/onelinevalidator.h"
 #include "pages/base/pagelayout.h"
 #include "pages/base/paneldialog.h"
 #include "pages/watermark/watermarkrows.h"
@@ -15,7 +16,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegExpValidator>
 #include <QSet>
 #include <QSignalBlocker>
 
@@ -75,7 +75,7 @@ void WatermarkTab::createWidgets()
     customLabel = named(new QLabel(this), "lblCustomWatermark");
     customEdit = named(new QLineEdit(this), "lnEditCustomWatermark");
     customEdit->setMaxLength(longestName);
-    customEdit->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("\\S[^#]*")), customEdit));
+    customEdit->setValidator(new OneLineValidator(QStringLiteral("\\S[^#]*"), customEdit));
     customLabel->setBuddy(customEdit);
     newButton = named(new QPushButton(this), "butNewCustomWatermark");
     saveButton = named(new QPushButton(this), "butSaveCustomWatermark");
