@@ -77,8 +77,6 @@ void AccountListDialog::createConnections()
 {
     const auto check = &AccountListDialog::checkCustomIDButtonStates;
     connect(table, &QTableWidget::itemSelectionChanged, this, check);
-    // The keyboard makes a row the current one without selecting it.
-    connect(table, &QTableWidget::currentCellChanged, this, check);
     connect(table, &QTableWidget::cellDoubleClicked, this,
             &AccountListDialog::customAccountIDDoubleClicked);
     for (const QLineEdit *edit : {editDialog->idEdit, editDialog->descriptionEdit})
@@ -94,9 +92,10 @@ void AccountListDialog::createConnections()
 
 // The list
 
-void AccountListDialog::showFor(const Accounts &accounts)
+void AccountListDialog::showFor(const Accounts &accounts, const QString &chargedId)
 {
     tempAccounts = accounts;
+    tempChargedId = chargedId;
     show();
 }
 
@@ -117,22 +116,25 @@ void AccountListDialog::loadCustomIDTable()
     table->sortByColumn(sortColumn, sortOrder);
 }
 
-QString AccountListDialog::currentText(Column column) const
+QString AccountListDialog::highlightedText(Column column) const
 {
-    const QTableWidgetItem *item = table->item(table->currentRow(), column);
-    return item ? item->text() : QString();
+    const QModelIndexList rows = table->selectionModel()->selectedRows(column);
+    return rows.isEmpty() ? QString() : rows.first().data().toString();
 }
 
 void AccountListDialog::checkCustomIDButtonStates()
 {
-    const bool canChange = table->currentRow() >= 0 && table->rowCount() > 0;
+    const bool canChange = table->selectionModel()->hasSelection();
     editButton->setEnabled(canChange);
     deleteButton->setEnabled(canChange);
 }
 
 void AccountListDialog::deleteCustomAccountID()
 {
-    tempAccounts.remove(currentText(IdColumn));
+    const QString id = highlightedText(IdColumn);
+    tempAccounts.remove(id);
+    if (id == tempChargedId)
+        tempChargedId.clear();
     loadCustomIDTable();
     checkCustomIDButtonStates();
     emit accountDeleted();
@@ -154,7 +156,9 @@ void AccountListDialog::customAccountIDDoubleClicked(int, int)
 
 void AccountListDialog::editCustomAccountID()
 {
-    editDialog->showKnown(currentText(IdColumn), currentText(DescriptionColumn));
+    if (!table->selectionModel()->hasSelection()) // a double click with Ctrl takes it away
+        return;
+    editDialog->showKnown(highlightedText(IdColumn), highlightedText(DescriptionColumn));
     loadCustomIDTable();
     checkCustomIDButtonStates();
     isNewAccount = false;
@@ -163,9 +167,9 @@ void AccountListDialog::editCustomAccountID()
 
 void AccountListDialog::createNewCustomAccountID()
 {
-    switch (enterAccount(&tempAccounts,
-                         {editDialog->idEdit->text(), editDialog->descriptionEdit->text(),
-                          isNewAccount, editedAccountId})) {
+    const AccountEntry entry = {editDialog->idEdit->text(), editDialog->descriptionEdit->text(),
+                                isNewAccount, editedAccountId};
+    switch (enterAccount(&tempAccounts, entry)) {
     case AccountFault::NoId:
         showError(JobAccounting::noIdText());
         return;
@@ -175,6 +179,8 @@ void AccountListDialog::createNewCustomAccountID()
     case AccountFault::None:
         break;
     }
+    if (!entry.isNew && entry.formerId == tempChargedId)
+        tempChargedId = entry.id;
     loadCustomIDTable();
     checkCustomIDButtonStates();
     editDialog->close();

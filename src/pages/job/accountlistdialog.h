@@ -18,17 +18,20 @@ class AccountListDialog : public QDialog
 public:
     explicit AccountListDialog(QWidget *page);
 
-    /// Opens with a copy of the list.
-    void showFor(const Accounts &accounts);
+    /// Opens with a copy of the list. `chargedId` is the account that is selected on the page;
+    /// empty for none.
+    void showFor(const Accounts &accounts, const QString &chargedId);
     /// The copy as it stands.
     const Accounts &accounts() const { return tempAccounts; }
+    /// The ID that the selected account has in the copy; empty once it is deleted.
+    const QString &chargedId() const { return tempChargedId; }
     /// OK and Cancel, whose signals are the page's to connect.
     const QDialogButtonBox *buttons() const { return buttonBox; }
 
 public slots:
     /// Fills the table anew, in the order that the user chose by its header.
     void loadCustomIDTable();
-    /// Edit and Delete need a row.
+    /// Edit and Delete need a highlighted row.
     void checkCustomIDButtonStates();
 
 signals:
@@ -53,7 +56,8 @@ private:
     void createTable();
     void createLayout();
     void createConnections();
-    QString currentText(Column column) const;
+    /// Empty without a highlighted row. Keyboard and Ctrl make a row the current one without that.
+    QString highlightedText(Column column) const;
     void showError(const QString &text);
 
     // Made in this order: the first gets the focus.
@@ -65,6 +69,7 @@ private:
     AccountEditDialog *editDialog;
 
     Accounts tempAccounts;
+    QString tempChargedId;
     bool isNewAccount = true; ///< the edit dialog was opened with New
     QString editedAccountId;  ///< what the edit dialog started with; empty for New
 };

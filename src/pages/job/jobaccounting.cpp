@@ -88,12 +88,16 @@ void JobAccounting::showMode()
         idEdit->clear();
 }
 
-void JobAccounting::refreshAccountCombo()
+void JobAccounting::refreshAccountCombo(const QString &selected)
 {
-    const QString selected = idBox->currentText();
+    const QSignalBlocker silent(idBox);
+    const bool wasEmpty = idBox->count() == 0;
     idBox->clear();
     idBox->addItems(sortedAccountIds(accounts));
-    idBox->setCurrentIndex(qMax(0, idBox->findText(selected)));
+    // Nobody is charged who wasn't chosen.
+    if (!wasEmpty)
+        idBox->setCurrentIndex(
+            idBox->findText(selected, Qt::MatchExactly | Qt::MatchCaseSensitive));
 }
 
 QString JobAccounting::currentId() const
@@ -105,7 +109,10 @@ QString JobAccounting::fault() const
 {
     if (!button->isChecked() || !currentId().isEmpty())
         return QString();
-    return mode() == ListedId ? tr("You must add an account ID to the list.") : noIdText();
+    if (mode() == SpecificId)
+        return noIdText();
+    return accounts.isEmpty() ? tr("You must add an account ID to the list.")
+                              : tr("Select account ID");
 }
 
 bool JobAccounting::holdsBack() const
@@ -133,7 +140,7 @@ void JobAccounting::loadAccountSettings()
         button->setChecked(true);
     idEdit->clear();
     accounts = accountsFromLines(readSettingValues(listKey));
-    refreshAccountCombo();
+    refreshAccountCombo(QString());
     loadId(defaultId);
     showMode();
 }

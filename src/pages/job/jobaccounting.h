@@ -36,8 +36,9 @@ public:
     Mode mode() const;
     /// Shows the widgets of the mode. A typed ID goes with its field.
     void showMode();
-    /// Puts the list into its box. The selection stays if it is still there.
-    void refreshAccountCombo();
+    /// Silently puts the list into its box and selects the account. One that the list doesn't have
+    /// leaves none selected; only a box that was empty begins with its first account.
+    void refreshAccountCombo(const QString &selected);
 
     QString fault() const override;
     bool holdsBack() const override;

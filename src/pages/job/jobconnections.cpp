@@ -34,6 +34,7 @@ void JobTab::createConnections()
     connect(accounting->modeBox, changed, dialog, toDialog, Qt::UniqueConnection);
     connect(accounting->modeBox, changed, this, &JobTab::verifySpecificJobAccountID,
             Qt::UniqueConnection);
+    connect(accounting->idBox, changed, dialog, toDialog);
 
     connect(login->button, toggled, dialog, toDialog);
     connect(login->button, toggled, this, &JobTab::toggleUserLogin);

@@ -111,6 +111,7 @@ void JobTab::reload()
     setBoundSignalsBlocked(true);
     {
         const QSignalBlocker silentMode(accounting->modeBox);
+        const QSignalBlocker silentId(accounting->idBox);
         const QSignalBlocker silentName(name->modeBox);
         hideErrors();
         setTabName();
@@ -204,19 +205,19 @@ void JobTab::verifySpecificJobAccountID()
 
 void JobTab::showCustomAccountIDDialog()
 {
-    accountList->showFor(accounting->accounts);
+    accountList->showFor(accounting->accounts, accounting->idBox->currentText());
 }
 
 void JobTab::refreshAccountCombo()
 {
-    accounting->refreshAccountCombo();
+    accounting->refreshAccountCombo(accounting->idBox->currentText());
 }
 
 void JobTab::saveTempAccountIDs()
 {
     accounting->accounts = accountList->accounts();
     accountList->hide();
-    refreshAccountCombo();
+    accounting->refreshAccountCombo(accountList->chargedId());
 }
 
 // User login
