@@ -38,7 +38,8 @@ void BixButtonGroup::setGroupEnabled(bool on)
     setLabelEnabled(on);
 }
 
-void BixButtonGroup::addButton(const QString &name, const QString &iconPath)
+void BixButtonGroup::addButton(const QString &name, const QString &iconPath,
+                               const QString &untranslatedName, const QStringList &keys)
 {
     auto *button = new QPushButton(this);
     button->setAccessibleName(name);
@@ -49,6 +50,8 @@ void BixButtonGroup::addButton(const QString &name, const QString &iconPath)
     button->setFocusPolicy(Qt::StrongFocus);
     buttons.append(button);
     imagePaths.append(iconPath);
+    untranslatedNames_.append(untranslatedName);
+    choiceKeys.append(keys);
     group->addButton(button);
     layout_->addWidget(button, 1, nextColumn++, Qt::AlignLeft);
 }
@@ -62,6 +65,8 @@ void BixButtonGroup::clearButtons()
     }
     buttons.clear();
     imagePaths.clear();
+    untranslatedNames_.clear();
+    choiceKeys.clear();
     nextColumn = 0;
 }
 

@@ -15,7 +15,9 @@ class QPushButton;
 /// selection.
 ///
 /// A button's accessible name is the value it stands for: the translated text of an option's
-/// choice. With at least one button, one is always selected after the first setButtonByValue().
+/// choice. What else tells a choice as the button's own, where texts are in another language, is
+/// kept beside it for whoever knows the options. With at least one button, one is always selected
+/// after the first setButtonByValue().
 class BixButtonGroup : public QFrame
 {
     Q_OBJECT
@@ -29,8 +31,11 @@ public:
     /// Changes the name only; the label follows with the next selection.
     void setTitle(const QString &title) { title_ = title; }
     /// Appends a button. `iconPath` names a picture of 50 x 50 pixels that has a partner whose path
-    /// ends in "-selected".
-    void addButton(const QString &name, const QString &iconPath);
+    /// ends in "-selected". `untranslatedName` and `choiceKeys` are for untranslatedNames() and
+    /// choiceKeysAt().
+    void addButton(const QString &name, const QString &iconPath,
+                   const QString &untranslatedName = QString(),
+                   const QStringList &choiceKeys = QStringList());
     /// Takes all buttons out; they stay children of the group.
     void clearButtons();
     /// Selects the button of that name, or the first one if there is none.
@@ -42,6 +47,10 @@ public:
     int currentIndex() const;
     int buttonCount() const { return buttons.size(); }
     QStringList buttonNames() const;
+    /// The names as they were before their translation; empty for a button that was given none.
+    const QStringList &untranslatedNames() const { return untranslatedNames_; }
+    /// The keys of the choices that the button at this position may stand for.
+    QStringList choiceKeysAt(int position) const { return choiceKeys.value(position); }
     /// The button with this id of the QButtonGroup, or null. Ids are the automatic ones, not
     /// positions.
     QPushButton *button(int index) const;
@@ -76,7 +85,10 @@ private:
     QGridLayout *layout_;
     QButtonGroup *group;
     QList<QPushButton *> buttons;
-    QStringList imagePaths; ///< parallel to `buttons`
+    // Parallel to `buttons`.
+    QStringList imagePaths;
+    QStringList untranslatedNames_;
+    QList<QStringList> choiceKeys;
     QLabel *label;
     QString title_;
     int nextColumn = 0;

@@ -10,8 +10,8 @@ namespace {
 
 // In the order of ColorGroup::Button.
 constexpr PageWidgets::ButtonRow rows[] = {
-    {QT_TRANSLATE_NOOP("ColorGroup", "Full color"), ":/icons/color"},
-    {QT_TRANSLATE_NOOP("ColorGroup", "Black & white"), ":/icons/monochrome"},
+    {QT_TRANSLATE_NOOP("ColorGroup", "Full color"), ":/icons/color", "CMYK RGB"},
+    {QT_TRANSLATE_NOOP("ColorGroup", "Black & white"), ":/icons/monochrome", "Gray"},
 };
 
 } // namespace

@@ -5,6 +5,10 @@
 #include "pages/base/tab.h"
 #include "widgets/bixbuttongroup.h"
 
+#include <QPushButton>
+
+#include <algorithm>
+
 namespace {
 
 BixButtonGroup *toGroup(QWidget *widget)
@@ -17,7 +21,74 @@ const BixButtonGroup *toGroup(const QWidget *widget)
     return static_cast<const BixButtonGroup *>(widget);
 }
 
+/// What a button and its choice have in common.
+enum class Link
+{
+    Name,
+    UntranslatedName,
+    Key
+};
+
+bool isLinked(const BixButtonGroup *group, int position, const OptionChoice *choice, Link link)
+{
+    switch (link) {
+    case Link::Name:
+        return group->buttonAt(position)->accessibleName() == choice->text();
+    case Link::UntranslatedName:
+        return group->untranslatedNames().at(position) == choice->text();
+    case Link::Key:
+        break;
+    }
+    return group->choiceKeysAt(position).contains(choice->key());
+}
+
+/// The first way in which any button has a choice. One for the whole group: a text of another
+/// language that happens to be a button's name must not stand beside keys.
+Link linkOf(const BixButtonGroup *group, const bOption *option)
+{
+    const QList<OptionChoice *> choices = option->choiceList();
+    for (const Link link : {Link::Name, Link::UntranslatedName}) {
+        for (int i = 0; i < group->buttonCount(); ++i) {
+            for (const OptionChoice *choice : choices) {
+                if (isLinked(group, i, choice, link))
+                    return link;
+            }
+        }
+    }
+    return Link::Key;
+}
+
 } // namespace
+
+OptionChoice *GroupBinding::choiceAt(const BixButtonGroup *group, int position,
+                                     const bOption *option)
+{
+    if (!group->buttonAt(position))
+        return nullptr;
+    const Link link = linkOf(group, option);
+    QList<OptionChoice *> linked = option->choiceList();
+    const auto isForeign = [&](const OptionChoice *choice) {
+        return !isLinked(group, position, choice, link);
+    };
+    linked.erase(std::remove_if(linked.begin(), linked.end(), isForeign), linked.end());
+    if (link == Link::Key && linked.size() > 1) {
+        OptionChoice *preferred = Tab::savedOrDefaultChoice(option);
+        if (linked.contains(preferred))
+            return preferred;
+    }
+    return linked.value(0);
+}
+
+int GroupBinding::positionOf(const OptionChoice *choice, const BixButtonGroup *group,
+                             const bOption *option)
+{
+    const Link link = linkOf(group, option);
+    for (int i = 0; choice && i < group->buttonCount(); ++i) {
+        if (isLinked(group, i, choice, link))
+            return i;
+    }
+    return -1;
+}
 
 void GroupBinding::connectTo(Tab &page, QWidget *widget) const
 {
@@ -30,12 +101,12 @@ void GroupBinding::load(Tab &, QWidget *widget, bOption *option) const
     const OptionChoice *choice = option ? Tab::savedOrDefaultChoice(option) : nullptr;
     group->setGroupEnabled(choice);
     if (choice)
-        group->setButtonByValue(choice->text());
+        group->setButton(positionOf(choice, group, option));
 }
 
 OptionChoice *GroupBinding::choice(const QWidget *widget, int, const bOption *option) const
 {
-    return option->findChoiceByText(toGroup(widget)->currentText());
+    return choiceAt(toGroup(widget), toGroup(widget)->currentIndex(), option);
 }
 
 bool GroupBinding::enable(Tab &page, QWidget *widget, bOption *option) const
@@ -50,9 +121,8 @@ bool GroupBinding::enableButtons(BixButtonGroup *group, bOption *option)
     int constrainedCount = 0;
     int firstFree = -1;
     bool mustMove = false;
-    const QStringList names = group->buttonNames();
-    for (int i = 0; i < names.size(); ++i) {
-        const OptionChoice *choice = option->findChoiceByText(names[i]);
+    for (int i = 0; i < group->buttonCount(); ++i) {
+        const OptionChoice *choice = choiceAt(group, i, option);
         if (!choice)
             continue;
         const bool blocked = choice->isBlocked();
@@ -65,7 +135,7 @@ bool GroupBinding::enableButtons(BixButtonGroup *group, bOption *option)
         }
     }
     if (mustMove) {
-        option->setCurrent(firstFree < 0 ? nullptr : option->findChoiceByText(names[firstFree]));
+        option->setCurrent(choiceAt(group, firstFree, option));
         if (firstFree >= 0)
             group->setButton(firstFree);
     }
@@ -85,7 +155,8 @@ bool GroupBinding::enableButtons(BixButtonGroup *group, bOption *option)
 
 QString GroupBinding::savedValue(const QWidget *widget, const bOption *option) const
 {
-    return Tab::keywordForText(option, toGroup(widget)->currentText());
+    const OptionChoice *shown = choice(widget, 0, option);
+    return shown ? shown->key() : QString();
 }
 
 void GroupBinding::mark(QWidget *widget) const

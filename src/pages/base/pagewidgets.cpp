@@ -26,7 +26,9 @@ LabeledComboBox labeledComboBox(QWidget *page, const char *labelName, const char
 
 void addButton(BixButtonGroup *group, const ButtonRow &row, Translate tr)
 {
-    group->addButton(tr(row.name, nullptr, -1), QLatin1String(row.icon));
+    group->addButton(
+        tr(row.name, nullptr, -1), QLatin1String(row.icon), QLatin1String(row.name),
+        QString::fromLatin1(row.choiceKeys).split(QLatin1Char(' '), Qt::SkipEmptyParts));
 }
 
 void simplifyTitleBar(QDialog *dialog)

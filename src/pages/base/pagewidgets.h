@@ -17,11 +17,13 @@ namespace PageWidgets {
 using Translate = QString (*)(const char *text, const char *disambiguation, int n);
 
 /// A button of a group: the name that equals the text of its choice, marked for translation in the
-/// page's context, and its picture.
+/// page's context, its picture, and the keys of the choices that it may stand for where no text is
+/// known, separated by blanks.
 struct ButtonRow
 {
     const char *name;
     const char *icon;
+    const char *choiceKeys = "";
 };
 
 /// A combo box and the label above it.

@@ -26,6 +26,16 @@ const QLatin1String paperKeyword("PageSize");
 constexpr const char *paperAliases[] = {"PageRegion", "ImageableArea", "PaperDimension",
                                         "MediaSize"};
 
+constexpr PageWidgets::ButtonRow collateButtons[] = {
+    {QT_TRANSLATE_NOOP("GeneralTab", "Off"), ":/icons/collate-off", "False"},
+    {QT_TRANSLATE_NOOP("GeneralTab", "On"), ":/icons/collate-on", "True"},
+};
+constexpr PageWidgets::ButtonRow duplexButtons[] = {
+    {QT_TRANSLATE_NOOP("GeneralTab", "Off"), ":/icons/duplex-off", "None"},
+    {QT_TRANSLATE_NOOP("GeneralTab", "Long edge"), ":/icons/duplex-long", "DuplexNoTumble"},
+    {QT_TRANSLATE_NOOP("GeneralTab", "Short edge"), ":/icons/duplex-short", "DuplexTumble"},
+};
+
 } // namespace
 
 GeneralTab::GeneralTab(PanelDialog *dialog)
@@ -52,13 +62,10 @@ void GeneralTab::createWidgets()
     addComboBox(paperGrid, 7, "OutputBin", tr("Destination"));
 
     collateGroup = addGroup("Coll", QStringLiteral("butGroupCol"), tr("Collate"));
-    collateGroup->addButton(tr("Off"), QStringLiteral(":/icons/collate-off"));
-    collateGroup->addButton(tr("On"), QStringLiteral(":/icons/collate-on"));
+    PageWidgets::addButtons(collateGroup, collateButtons, &GeneralTab::tr);
 
     duplexGroup = addGroup("Duplex", QStringLiteral("butGroupDuplex"), tr("Duplex"));
-    duplexGroup->addButton(tr("Off"), QStringLiteral(":/icons/duplex-off"));
-    duplexGroup->addButton(tr("Long edge"), QStringLiteral(":/icons/duplex-long"));
-    duplexGroup->addButton(tr("Short edge"), QStringLiteral(":/icons/duplex-short"));
+    PageWidgets::addButtons(duplexGroup, duplexButtons, &GeneralTab::tr);
 
     colorGroup_ = addGroup("ColorModel", QStringLiteral("butGroupColorModelGeneral"), tr("Color"));
     ColorGroup::addButtons(colorGroup_);

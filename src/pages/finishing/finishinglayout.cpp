@@ -20,13 +20,13 @@ using PageWidgets::named;
 namespace {
 
 constexpr PageWidgets::ButtonRow separationButtons[] = {
-    {QT_TRANSLATE_NOOP("FinishingTab", "Off"), ":/icons/separation-off"},
-    {QT_TRANSLATE_NOOP("FinishingTab", "Offset jobs"), ":/icons/separation-offset"},
-    {QT_TRANSLATE_NOOP("FinishingTab", "Rotate copies"), ":/icons/separation-rotate"},
+    {QT_TRANSLATE_NOOP("FinishingTab", "Off"), ":/icons/separation-off", "None"},
+    {QT_TRANSLATE_NOOP("FinishingTab", "Offset jobs"), ":/icons/separation-offset", "Jog"},
+    {QT_TRANSLATE_NOOP("FinishingTab", "Rotate copies"), ":/icons/separation-rotate", "Rot"},
 };
 constexpr PageWidgets::ButtonRow rotateButtons[] = {
-    {QT_TRANSLATE_NOOP("FinishingTab", "Off"), ":/icons/Rotate-180-off"},
-    {QT_TRANSLATE_NOOP("FinishingTab", "On"), ":/icons/Rotate-180-on"},
+    {QT_TRANSLATE_NOOP("FinishingTab", "Off"), ":/icons/Rotate-180-off", "False"},
+    {QT_TRANSLATE_NOOP("FinishingTab", "On"), ":/icons/Rotate-180-on", "True"},
 };
 
 struct RotateTitle

@@ -4,6 +4,7 @@
 #include "model/keys.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
+#include "pages/base/groupbinding.h"
 #include "storage/settingsfile.h"
 #include "widgets/bixbuttongroup.h"
 #include "widgets/bixcheckboxbutton.h"
@@ -135,11 +136,11 @@ void FinishingTab::loadSeparation()
 {
     if (const bOption *separation = findOption(QStringLiteral("Sep"))) {
         separationGroup->setGroupEnabled(true);
-        separationGroup->setEnabledAt(rotateCopiesButton,
-                                      separation->hasChoice(QStringLiteral("Rot")));
-        separationGroup->setEnabledAt(offsetButton, separation->hasChoice(QStringLiteral("Jog")));
+        for (const int button : {rotateCopiesButton, offsetButton})
+            separationGroup->setEnabledAt(
+                button, GroupBinding::choiceAt(separationGroup, button, separation));
     } else {
-        separationGroup->setButtonByValue(tr("Off"));
+        separationGroup->setButton(0);
     }
 }
 

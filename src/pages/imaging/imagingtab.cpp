@@ -5,6 +5,7 @@
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "pages/base/colorgroup.h"
+#include "pages/base/groupbinding.h"
 #include "pages/base/pagewidgets.h"
 #include "pages/base/paneldialog.h"
 #include "pages/imaging/adjustmentdialog.h"
@@ -27,6 +28,7 @@ const QLatin1String resolutionKeyword("Resolution");
 const QLatin1String adjustmentKeyword("Cadj");
 const QLatin1String monoAdjustmentKeyword("Madj");
 
+/// For a colour mode that no button stands for.
 ColorGroup::Button buttonForColor(const QString &key)
 {
     return key == QLatin1String("CMYK") || key == QLatin1String("RGB") ? ColorGroup::FullColor
@@ -233,8 +235,10 @@ bool ImagingTab::enableOptionsForButtonGroup(BixButtonGroup *group, bOption *opt
     const bool changed = Tab::enableOptionsForButtonGroup(group, option);
     if (option->key() != ColorGroup::keyword)
         return changed;
-    if (option->current())
-        group->setButton(buttonForColor(option->current()->key()));
+    if (option->current()) {
+        const int shown = GroupBinding::positionOf(option->current(), group, option);
+        group->setButton(shown < 0 ? int(buttonForColor(option->current()->key())) : shown);
+    }
     ColorGroup::showWithoutChoice(group, option);
     return changed;
 }

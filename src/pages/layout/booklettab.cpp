@@ -13,9 +13,9 @@ using PageWidgets::withColon;
 namespace {
 
 constexpr PageWidgets::ButtonRow bindingButtons[] = {
-    {QT_TRANSLATE_NOOP("BookletTab", "Off"), ":/icons/booklet-off"},
-    {QT_TRANSLATE_NOOP("BookletTab", "Left edge binding"), ":/icons/booklet-left"},
-    {QT_TRANSLATE_NOOP("BookletTab", "Right edge binding"), ":/icons/booklet-right"},
+    {QT_TRANSLATE_NOOP("BookletTab", "Off"), ":/icons/booklet-off", "None"},
+    {QT_TRANSLATE_NOOP("BookletTab", "Left edge binding"), ":/icons/booklet-left", "Left"},
+    {QT_TRANSLATE_NOOP("BookletTab", "Right edge binding"), ":/icons/booklet-right", "Right"},
 };
 
 } // namespace
