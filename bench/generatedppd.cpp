@@ -56,6 +56,15 @@ bool writeGeneratedPpd(const QString &path, const GeneratedPpd &measures)
             << optionName(second == first ? (first + 1) % measures.options : second) << " "
             << choiceName(int(random() % unsigned(measures.choicesPerOption))) << "\n";
     }
+    // Of options without ranks the first value alone blocks the second, and few targets get all of
+    // the blocks: so selecting the value is as much work as can be.
+    constexpr int targets = 5;
+    for (int rule = 0; rule < measures.rulesOnOneValue; ++rule) {
+        const int third = rule / targets;
+        out << "*cupsUIConstraints: \"*Bench5 Value0 *Bench" << 6 + rule % targets
+            << " Value0 *Bench" << 6 + targets + third / measures.choicesPerOption << " "
+            << choiceName(third % measures.choicesPerOption) << "\"\n";
+    }
     out.flush();
     return file.error() == QFile::NoError && out.status() == QTextStream::Ok;
 }

@@ -8,6 +8,9 @@ struct GeneratedPpd
     int options = 400;
     int choicesPerOption = 10;
     int constraints = 8000;
+    /// Three-way rules that all have one value as a condition, "Bench5" with "Value0". At most
+    /// 5 * (options - 11) * choicesPerOption are there.
+    int rulesOnOneValue = 0;
 };
 
 /// Writes the PPD (PPD 4.3 format) to `path`, the same for the same measures. False if the file

@@ -30,6 +30,8 @@
 namespace {
 
 QByteArray ppdPath;
+/// Of a PPD with very many rules on one value.
+QByteArray busyPpdPath;
 
 struct PpdCloser
 {
@@ -37,32 +39,64 @@ struct PpdCloser
 };
 using Ppd = std::unique_ptr<ppd_file_t, PpdCloser>;
 
-Ppd openPpd()
+Ppd openPpd(const QByteArray &path = ppdPath)
 {
-    return Ppd(ppdOpenFile(ppdPath.constData()));
+    return Ppd(ppdOpenFile(path.constData()));
 }
 
-void openFile(benchmark::State &state)
+void measureOpening(benchmark::State &state, const QByteArray &path)
 {
     for (auto _ : state) {
-        ppd_file_t *ppd = ppdOpenFile(ppdPath.constData());
+        ppd_file_t *ppd = ppdOpenFile(path.constData());
         state.PauseTiming();
         ppdClose(ppd);
         state.ResumeTiming();
     }
 }
 
-void import(benchmark::State &state)
+void measureImport(benchmark::State &state, const QByteArray &path)
 {
     for (auto _ : state) {
         state.PauseTiming();
-        const Ppd ppd = openPpd();
+        const Ppd ppd = openPpd(path);
         auto store = std::make_unique<OptionStore>();
         state.ResumeTiming();
         importPpd(ppd.get(), store.get());
         state.PauseTiming();
         store.reset();
         state.ResumeTiming();
+    }
+}
+
+void openFile(benchmark::State &state)
+{
+    measureOpening(state, ppdPath);
+}
+
+void openBusyFile(benchmark::State &state)
+{
+    measureOpening(state, busyPpdPath);
+}
+
+void import(benchmark::State &state)
+{
+    measureImport(state, ppdPath);
+}
+
+void importBusy(benchmark::State &state)
+{
+    measureImport(state, busyPpdPath);
+}
+
+/// The value with very many rules is selected and left again.
+void selectBusy(benchmark::State &state)
+{
+    const Ppd ppd = openPpd(busyPpdPath);
+    OptionStore store;
+    importPpd(ppd.get(), &store);
+    for (auto _ : state) {
+        for (const char *value : {"Value0", "Value1"})
+            store.setCurrentByKey(QStringLiteral("Bench5"), QLatin1String(value));
     }
 }
 
@@ -198,6 +232,15 @@ int main(int argc, char **argv)
         return 1;
     }
     ppdPath = QFile::encodeName(path);
+    const QString busyPath = directory.filePath(QStringLiteral("busy.ppd"));
+    GeneratedPpd busy;
+    busy.constraints = 0;
+    busy.rulesOnOneValue = 19000;
+    if (!writeGeneratedPpd(busyPath, busy)) {
+        std::fprintf(stderr, "can't write %s\n", qPrintable(busyPath));
+        return 1;
+    }
+    busyPpdPath = QFile::encodeName(busyPath);
     // The question about data collection would wait for an answer.
     QFile answer(settingsPath());
     if (!answer.open(QIODevice::WriteOnly) || answer.write("Telemetry=False\n") < 0) {
@@ -223,6 +266,9 @@ int main(int argc, char **argv)
         {"select+isBlocked", selectAndAsk, benchmark::kMicrosecond},
         {"click+constraintPass", click, benchmark::kMillisecond},
         {"showProfile", showProfile, benchmark::kMillisecond},
+        {"ppdOpenFile of a busy value", openBusyFile, benchmark::kMillisecond},
+        {"importPpd of a busy value", importBusy, benchmark::kMillisecond},
+        {"select a busy value", selectBusy, benchmark::kMillisecond},
     };
     for (const auto &each : benchmarks)
         benchmark::RegisterBenchmark(each.name, each.run)

@@ -5,13 +5,6 @@
 
 namespace {
 
-template <typename T>
-void appendOnce(QList<T> &list, const T &entry)
-{
-    if (!list.contains(entry))
-        list.append(entry);
-}
-
 /// True if every entry before the rule's last one is selected. A list with repeated entries ends
 /// at the first that equals the last, so only its leading part counts.
 bool conditionsHold(const OptionRefList &rule)
@@ -49,12 +42,12 @@ bool OptionChoice::isValid() const
 
 void OptionChoice::addPairConstraint(bOption *option, OptionChoice *choice)
 {
-    appendOnce(pairConstraints, {option, choice});
+    pairConstraints.append({option, choice});
 }
 
 void OptionChoice::addGroupConstraint(const OptionRefList &rule)
 {
-    appendOnce(groupConstraints, rule);
+    groupConstraints.append(rule);
 }
 
 void OptionChoice::arm()
@@ -62,30 +55,32 @@ void OptionChoice::arm()
     Q_ASSERT(option_ && option_->current() == this); // only a selected value blocks others
     armed = true;
     const int priority = option_->priority();
-    for (const OptionRef &other : qAsConst(pairConstraints)) {
+    const QList<OptionRef> pairs = pairConstraints.list();
+    const QList<OptionRefList> rules = groupConstraints.list();
+    for (const OptionRef &other : pairs) {
         // The lower number wins, so a stronger option never yields; equals block each other.
         if (other.option->priority() >= priority)
-            appendOnce(other.choice->activePairBlocks, {option_, this});
+            other.choice->activePairBlocks.append({option_, this});
     }
-    for (const OptionRefList &rule : qAsConst(groupConstraints)) {
+    for (const OptionRefList &rule : rules) {
         Q_ASSERT(rule.size() >= 3);
         if (conditionsHold(rule))
-            appendOnce(rule.last().choice->activeGroupBlocks, rule);
+            rule.last().choice->activeGroupBlocks.append(rule);
     }
 }
 
 void OptionChoice::release()
 {
     armed = false;
+    const QList<OptionRef> pairs = pairConstraints.list();
+    const QList<OptionRefList> rules = groupConstraints.list();
     // Whatever the priorities say now: they may have changed since the block was posted.
-    for (const OptionRef &other : qAsConst(pairConstraints)) {
-        other.choice->activePairBlocks.removeOne({option_, this});
-        Q_ASSERT(!other.choice->activePairBlocks.contains({option_, this})); // was posted once
-    }
-    for (const OptionRefList &rule : qAsConst(groupConstraints)) {
+    for (const OptionRef &other : pairs)
+        other.choice->activePairBlocks.remove({option_, this});
+    for (const OptionRefList &rule : rules) {
         // Others block the target, so its own going lifts nothing.
         OptionChoice *target = rule.last().choice;
         if (target != this)
-            target->activeGroupBlocks.removeOne(rule);
+            target->activeGroupBlocks.remove(rule);
     }
 }

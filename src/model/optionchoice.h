@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
+#include <QPair>
 #include <QString>
 
 class bOption;
@@ -19,9 +21,79 @@ struct OptionRef
     bool operator!=(const OptionRef &other) const { return !(*this == other); }
 };
 
+inline uint qHash(const OptionRef &ref, uint seed = 0)
+{
+    return qHash(qMakePair(ref.option, ref.choice), seed);
+}
+
 /// A three-way rule: conditions first, the value that they block last. Equal when the same values
 /// stand at the same places.
 using OptionRefList = QList<OptionRef>;
+
+/// Entries in the order in which they came, each of them once.
+///
+/// A printer's values take part in a few rules each, but nothing keeps a PPD from naming one value
+/// in tens of thousands: from a number of entries on, an index tells where each stands, so that
+/// adding and removing take the same time however many there are.
+template <typename T>
+class UniqueList
+{
+public:
+    /// Appends the entry unless it is there. An empty T is no entry.
+    void append(const T &entry)
+    {
+        if (indexOf(entry) >= 0)
+            return;
+        entries.append(entry);
+        if (!positions.isEmpty())
+            positions.insert(entry, entries.size() - 1);
+        else
+            indexIfLong();
+    }
+    /// Removes the entry if it is there; the others keep their order.
+    void remove(const T &entry)
+    {
+        const int position = indexOf(entry);
+        if (position < 0)
+            return;
+        if (positions.isEmpty()) {
+            entries.removeAt(position);
+            return;
+        }
+        positions.remove(entry);
+        entries[position] = T();
+        // Gaps are closed all at once, when most of the list is gaps.
+        if (2 * positions.size() < entries.size()) {
+            entries = list();
+            positions.clear();
+            indexIfLong();
+        }
+    }
+    bool isEmpty() const { return entries.isEmpty(); }
+    QList<T> list() const
+    {
+        QList<T> present = entries;
+        if (!positions.isEmpty() && positions.size() < entries.size())
+            present.removeAll(T());
+        return present;
+    }
+
+private:
+    static constexpr int longestUnindexed = 16;
+
+    int indexOf(const T &entry) const
+    {
+        return positions.isEmpty() ? entries.indexOf(entry) : positions.value(entry, -1);
+    }
+    void indexIfLong()
+    {
+        for (int i = 0; i < entries.size() && entries.size() > longestUnindexed; ++i)
+            positions.insert(entries[i], i);
+    }
+
+    QList<T> entries;        ///< an empty T for each one that an indexed list has lost
+    QHash<T, int> positions; ///< of all entries; empty while they are few
+};
 
 /// One selectable value of a bOption, with the rules it takes part in and the blocks on it.
 ///
@@ -49,13 +121,13 @@ public:
     bool isValid() const;
 
     /// Every value that this one excludes, one to one.
-    QList<OptionRef> pairConstraintList() const { return pairConstraints; }
+    QList<OptionRef> pairConstraintList() const { return pairConstraints.list(); }
     /// Every three-way rule that names this value.
-    QList<OptionRefList> groupConstraintList() const { return groupConstraints; }
+    QList<OptionRefList> groupConstraintList() const { return groupConstraints.list(); }
     /// The selected values that forbid this one now.
-    const QList<OptionRef> &pairBlockList() const { return activePairBlocks; }
+    QList<OptionRef> pairBlockList() const { return activePairBlocks.list(); }
     /// The three-way rules that forbid this value now.
-    const QList<OptionRefList> &groupBlockList() const { return activeGroupBlocks; }
+    QList<OptionRefList> groupBlockList() const { return activeGroupBlocks.list(); }
 
     /// Adds one direction of a pair rule, unless it is there. OptionStore::addConstraint() adds
     /// both. Posts no block.
@@ -80,8 +152,8 @@ private:
     QString text_;
     bool armed = false;
     bOption *option_ = nullptr;
-    QList<OptionRef> pairConstraints;
-    QList<OptionRef> activePairBlocks;
-    QList<OptionRefList> groupConstraints;
-    QList<OptionRefList> activeGroupBlocks;
+    UniqueList<OptionRef> pairConstraints;
+    UniqueList<OptionRef> activePairBlocks;
+    UniqueList<OptionRefList> groupConstraints;
+    UniqueList<OptionRefList> activeGroupBlocks;
 };
