@@ -7,11 +7,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # The page whose catalogue names the buttons, and the PPD keyword they set.
 groups='GeneralTab Coll
 GeneralTab Duplex
-GeneralTab ColorModel
+ColorGroup ColorModel
 BookletTab BXBooklet
 FinishingTab Sep
-FinishingTab Rotate
-ImagingTab ColorModel'
+FinishingTab Rotate'
 
 status=0
 for language in english: french:fr german:de italian:it portuguese:pt spanish:es; do

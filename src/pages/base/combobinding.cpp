@@ -124,9 +124,11 @@ bool ComboBinding::enableItems(Tab &page, ComboBoxEx *box, bOption *option)
     const QSignalBlocker silent(box);
     if (replacement < 0) {
         // Nothing is left to choose; what can't be printed must not hold up other options either.
+        // Whatever that frees has to be looked at once more.
+        const bool freesOthers = option->current() && option->current()->isArmed();
         option->setCurrent(nullptr);
         box->setCurrentIndex(0);
-        return false;
+        return freesOthers;
     }
     box->setCurrentIndex(replacement);
     page.applyWidgetValue(replacement, box);

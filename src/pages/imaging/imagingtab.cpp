@@ -219,7 +219,9 @@ bool ImagingTab::enableLeanPrint(bOption *option)
         } else if (!mustBeOn) {
             switchTo(0);
         } else {
-            option->setCurrent(nullptr); // what can't be printed must not hold up other options
+            // What can't be printed must not hold up other options.
+            changed = changed || option->current()->isArmed();
+            option->setCurrent(nullptr);
         }
     } else if (shown && option->current() && !option->current()->isArmed()) {
         applyLeanPrint(); // something is left to choose again
