@@ -8,6 +8,7 @@
 namespace {
 
 const QLatin1String loginPath("/ws/user_manager/MobileAccess/MobileAccessRestService/loginPost");
+constexpr int firstErrorStatus = 400; // of HTTP: RFC 9110, section 15
 
 QByteArray loginBody(const QString &user, const QString &password)
 {
@@ -43,24 +44,31 @@ void bcurl::post(const QString &url, const QString &user, const QString &passwor
 
 void bcurl::slotReadyRead()
 {
-    // Whoever hears of the message may open a dialog, and the reply may end while it is open.
-    const QPointer<QNetworkReply> reply = qobject_cast<QNetworkReply *>(sender());
+    auto *reply = qobject_cast<QNetworkReply *>(sender());
     if (!reply)
         return;
-    // What comes later would count as an answer of its own.
-    disconnect(reply, &QNetworkReply::readyRead, this, &bcurl::slotReadyRead);
-    if (reply->error() != QNetworkReply::NoError)
-        emit errorReady(reply->objectName() + reply->errorString());
+    // The reply itself calls a status an error only at its end, which may be far off.
+    const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    if (reply->error() != QNetworkReply::NoError || status >= firstErrorStatus)
+        tell(reply, &bcurl::errorReady, reply->errorString());
     else
         // The pointer, so that the text ends at a zero byte.
-        emit messageReady(reply->objectName() + QString::fromUtf8(reply->readAll().constData()));
-    if (reply)
-        reply->deleteLater();
+        tell(reply, &bcurl::messageReady, QString::fromUtf8(reply->readAll().constData()));
 }
 
 void bcurl::slotError(QNetworkReply::NetworkError)
 {
-    const auto *reply = qobject_cast<QNetworkReply *>(sender());
-    if (reply)
-        emit errorReady(reply->objectName() + reply->errorString());
+    if (auto *reply = qobject_cast<QNetworkReply *>(sender()))
+        tell(reply, &bcurl::errorReady, reply->errorString());
+}
+
+void bcurl::tell(QNetworkReply *reply, void (bcurl::*signal)(const QString &), const QString &text)
+{
+    // What comes later would count as an answer of its own.
+    disconnect(reply, nullptr, this, nullptr);
+    // Whoever hears of the answer may open a dialog, and the reply may end while it is open.
+    const QPointer<QNetworkReply> stillThere = reply;
+    (this->*signal)(reply->objectName() + text);
+    if (stillThere)
+        reply->deleteLater();
 }

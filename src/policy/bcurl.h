@@ -10,14 +10,11 @@
 /// message begins with a tag that names its request, "<https://HOST:PORT USER>". Certificates are
 /// not checked: the line is encrypted, but nobody vouches for who is at its other end.
 ///
-/// What a server does, and what comes of it with Qt 5.15:
+/// What a server does, and what comes of it:
 /// - An answer: one message, with as much of it as has arrived when the first piece has. The rest
-///   is dropped.
-/// - No connection, or a connection that ends before the answer: one error.
-/// - An answer that is cut off: a message with its first piece, and an error as well if the end
-///   comes hard on its heels.
-/// - An HTTP error status with a body: a message with the body; if it came in one piece, an error
-///   as well. Without a body: one error.
+///   is dropped, and so is the news that it never came.
+/// - No connection, a connection that ends before the answer, or an HTTP error status (400 and up)
+///   whatever comes with it: one error.
 /// - Success without a body: nothing at all.
 class bcurl : public QObject
 {
@@ -42,5 +39,8 @@ private slots:
     void slotError(QNetworkReply::NetworkError error);
 
 private:
+    /// Tells what came of a request, which is the last that is heard of it.
+    void tell(QNetworkReply *reply, void (bcurl::*signal)(const QString &), const QString &text);
+
     QNetworkAccessManager *manager; ///< owns the replies
 };
