@@ -3,19 +3,17 @@
 #include <QNetworkRequest>
 #include <QPointer>
 #include <QUrl>
-#include <QUrlQuery>
 
 namespace {
 
 const QLatin1String loginPath("/ws/user_manager/MobileAccess/MobileAccessRestService/loginPost");
 constexpr int firstErrorStatus = 400; // of HTTP: RFC 9110, section 15
 
+/// The text of a query (RFC 3986, section 3.4) with nothing in it encoded. QUrlQuery would decode
+/// what was typed, "%41" to "A" say, and leave out the "=" before a null text.
 QByteArray loginBody(const QString &user, const QString &password)
 {
-    QUrlQuery query;
-    query.addQueryItem(QStringLiteral("userID"), user);
-    query.addQueryItem(QStringLiteral("userPWD"), password);
-    return query.query(QUrl::FullyDecoded).toUtf8();
+    return "userID=" + user.toUtf8() + "&userPWD=" + password.toUtf8();
 }
 
 } // namespace

@@ -24,8 +24,7 @@ public:
     explicit bcurl(QObject *parent = nullptr);
 
     /// Starts a login. `url` is scheme, host and port alone; the answer comes through the signals.
-    /// Name and password go into the body as they are, but for a "%" with two hexadecimal digits,
-    /// which stands for the byte that they name.
+    /// Name and password go into the body as they are, in UTF-8.
     void post(const QString &url, const QString &user, const QString &password);
 
 signals:

@@ -65,6 +65,15 @@ struct Client
     QSignalSpy errors{&curl, &bcurl::errorReady};
 };
 
+/// Starts a server with this command for an answer, and waits until it listens.
+void startServer(QProcess *server, quint16 port, const QString &command)
+{
+    server->start(qEnvironmentVariable("PRESSDESK_BUILD_DIR") + "/tests/policyserver",
+                  {QString::number(port), command});
+    QTcpSocket probe;
+    QTRY_VERIFY((probe.abort(), probe.connectToHost("127.0.0.1", port), probe.waitForConnected()));
+}
+
 } // namespace
 
 class TestPolicyClient : public QObject
@@ -72,6 +81,7 @@ class TestPolicyClient : public QObject
     Q_OBJECT
 
 private slots:
+    void logins();
     void answers();
     void unreachable();
     void tags_data();
@@ -82,22 +92,43 @@ private slots:
     void reports();
 };
 
+void TestPolicyClient::logins()
+{
+    QProcess server;
+    startServer(&server, 9095, "printf 'HTTP/1.1 200 OK\\r\\n\\r\\n'; tail -n 1");
+    Client client;
+    // What is typed arrives: name, password, and the body of the request.
+    const QStringList rows[] = {
+        {"ann", "x&y=z#? +;/\"\\", "userID=ann&userPWD=x&y=z#? +;/\"\\"},
+        {"ann", "100%&=#", "userID=ann&userPWD=100%&=#"},
+        {"a%b&c", "Ωß€%2", "userID=a%b&c&userPWD=Ωß€%2"},
+        {"%41nn", "%41%2f%25%00", "userID=%41nn&userPWD=%41%2f%25%00"},
+        {"%1", "50% %2B", "userID=%1&userPWD=50% %2B"},
+        {QString(), QString(), "userID=&userPWD="},
+    };
+    for (const QStringList &row : rows) {
+        client.curl.post("https://127.0.0.1:9095", row[0], row[1]);
+        QTRY_COMPARE(client.messages.size(), 1);
+        const QString tag = QString("<https://127.0.0.1:9095 ") + row[0] + '>';
+        QCOMPARE(client.messages.takeFirst().first().toString(), tag + row[2]);
+    }
+    server.kill();
+    server.waitForFinished();
+}
+
 void TestPolicyClient::answers()
 {
     QTemporaryDir folder;
     for (const Answer &answer : answersOfServer)
         QVERIFY(setFileText(folder.filePath(answer.user), answer.script));
     QProcess server;
-    server.start(
-        qEnvironmentVariable("PRESSDESK_BUILD_DIR") + "/tests/policyserver",
-        {"9094",
-         QString("http() { printf 'HTTP/1.1 %s x\\r\\nContent-Length: %d\\r\\n\\r\\n' $@; }\n"
-                 "later() { until [ -e %1/go ]; do sleep .05; done; }\n"
-                 "user=$(sed -n 's/^userID=\\(.*\\)&.*/\\1/p')\n"
-                 ". \"%1/$user\"")
-             .arg(folder.path())});
-    QTcpSocket probe;
-    QTRY_VERIFY((probe.abort(), probe.connectToHost("127.0.0.1", 9094), probe.waitForConnected()));
+    startServer(
+        &server, 9094,
+        QString("http() { printf 'HTTP/1.1 %s x\\r\\nContent-Length: %d\\r\\n\\r\\n' $@; }\n"
+                "later() { until [ -e %1/go ]; do sleep .05; done; }\n"
+                "user=$(sed -n 's/^userID=\\(.*\\)&.*/\\1/p')\n"
+                ". \"%1/$user\"")
+            .arg(folder.path()));
 
     // All at once: no request waits for another.
     std::vector<std::unique_ptr<Client>> clients;
