@@ -40,6 +40,15 @@ void bcurl::post(const QString &url, const QString &user, const QString &passwor
     connect(reply, &QNetworkReply::sslErrors, reply, qOverload<>(&QNetworkReply::ignoreSslErrors));
 }
 
+void bcurl::forgetRequests()
+{
+    const auto replies = manager->findChildren<QNetworkReply *>();
+    for (QNetworkReply *reply : replies) {
+        disconnect(reply, nullptr, this, nullptr);
+        connect(reply, &QNetworkReply::finished, reply, &QObject::deleteLater);
+    }
+}
+
 void bcurl::slotReadyRead()
 {
     auto *reply = qobject_cast<QNetworkReply *>(sender());

@@ -6,9 +6,10 @@
 
 /// The HTTPS client of the print-policy server: sends a login and hands the answer on.
 ///
-/// Requests neither wait for each other nor can be called back, and have no time limit. Every
-/// message begins with a tag that names its request, "<https://HOST:PORT USER>". Certificates are
-/// not checked: the line is encrypted, but nobody vouches for who is at its other end.
+/// Requests neither wait for each other nor can be called back, only be forgotten, and have no time
+/// limit. Every message begins with a tag that names its request, "<https://HOST:PORT USER>".
+/// Certificates are not checked: the line is encrypted, but nobody vouches for who is at its other
+/// end.
 ///
 /// What a server does, and what comes of it:
 /// - An answer: one message, with as much of it as has arrived when the first piece has. The rest
@@ -26,6 +27,9 @@ public:
     /// Starts a login. `url` is scheme, host and port alone; the answer comes through the signals.
     /// Name and password go into the body as they are, in UTF-8.
     void post(const QString &url, const QString &user, const QString &password);
+    /// Nobody waits for the requests made so far any more: they run on, but no signal tells of
+    /// them.
+    void forgetRequests();
 
 signals:
     /// The tag, then the body up to its first zero byte.

@@ -169,6 +169,8 @@ void FKPTab::toggleFKP()
     continueRadio->setChecked(true);
     switchOptions();
     toggleNotifications();
+    if (!isOn())
+        client->forgetRequests(); // a server switched off forbids nothing
 }
 
 void FKPTab::enableFields()
@@ -205,19 +207,23 @@ void FKPTab::toggleNotifications()
 void FKPTab::verify()
 {
     interactive = true;
-    startLogin(serverEdit->text(), portEdit->text(), userEdit->text(), passwordEdit->text());
+    startLogin(fields());
 }
 
-void FKPTab::startLogin(const QString &server, const QString &port, const QString &user,
-                        const QString &password)
+void FKPTab::startLogin(const Login &login)
 {
+    client->forgetRequests();
     verifySucceeded = false;
-    client->post(QStringLiteral("https://") + server + QLatin1Char(':') + port, user, password);
+    requested = login;
+    client->post(QStringLiteral("https://") + login.server + QLatin1Char(':') + login.port,
+                 login.user, login.password);
 }
 
 bool FKPTab::isStaleReply(const QString &message) const
 {
-    return PolicyReply::isStale(message, serverEdit->text(), portEdit->text(), userEdit->text());
+    // Without a store the printer is gone, which no reload has told the page of.
+    return !currentStore ||
+           PolicyReply::isStale(message, serverEdit->text(), portEdit->text(), userEdit->text());
 }
 
 void FKPTab::verifySuccess(const QString &message)
@@ -230,8 +236,8 @@ void FKPTab::verifySuccess(const QString &message)
     applyPolicies();
     reportVerifyResult(body);
     if (verifySucceeded) {
-        credentialsChanged = false;
-        recordVerified(isOn());
+        recordVerified(requested);
+        checkForChanges();
     }
 }
 
@@ -277,26 +283,31 @@ void FKPTab::emit_colorchanged()
 
 // Marks
 
+FKPTab::Login FKPTab::fields() const
+{
+    return {serverEdit->text(), portEdit->text(), userEdit->text(), passwordEdit->text()};
+}
+
+bool FKPTab::Login::operator!=(const Login &other) const
+{
+    return server != other.server || port != other.port || user != other.user ||
+           password != other.password;
+}
+
+bool FKPTab::Login::isIncomplete() const
+{
+    return server.isEmpty() || port.isEmpty() || user.isEmpty() || password.isEmpty();
+}
+
 void FKPTab::checkForChanges()
 {
-    credentialsChanged = isOn() != verifiedEnabled || serverEdit->text() != verifiedServer ||
-                         portEdit->text() != verifiedPort || userEdit->text() != verifiedUser ||
-                         passwordEdit->text() != verifiedPassword;
+    credentialsChanged = isOn() != verifiedEnabled || fields() != verified;
 }
 
-void FKPTab::recordVerified(bool on)
+void FKPTab::recordVerified(const Login &login)
 {
-    verifiedEnabled = on;
-    verifiedServer = serverEdit->text();
-    verifiedPort = portEdit->text();
-    verifiedUser = userEdit->text();
-    verifiedPassword = passwordEdit->text();
-}
-
-bool FKPTab::isIncomplete() const
-{
-    return serverEdit->text().isEmpty() || portEdit->text().isEmpty() ||
-           userEdit->text().isEmpty() || passwordEdit->text().isEmpty();
+    verifiedEnabled = isOn();
+    verified = login;
 }
 
 /// What holds the settings back; empty if nothing does.
@@ -304,7 +315,7 @@ QString FKPTab::fault() const
 {
     if (!isOn())
         return QString();
-    if (isIncomplete())
+    if (fields().isIncomplete())
         return tr("Server, Port, and Login user information must be filled out.");
     if (credentialsChanged)
         return tr("You must click Verify after making changes.");
@@ -319,7 +330,7 @@ void FKPTab::markCustomConstraints()
 {
     checkForChanges();
     if (isOn())
-        verifyButton->setEnabled(!isIncomplete());
+        verifyButton->setEnabled(!fields().isIncomplete());
     const QString text = fault();
     marked = !text.isEmpty();
     setWidgetMark(fkpButtons, text, marked);
@@ -357,7 +368,7 @@ void FKPTab::loadPolicySettings()
     portEdit->setText(readSetting(portKey));
     userEdit->setText(readSetting(userKey));
     passwordEdit->setText(savedPassword());
-    recordVerified(isOn());
+    recordVerified(fields());
     notificationBox->setChecked(isSetOn(notifyKey));
     const QString blocking = readSetting(blockingKey);
     if (blocking == settingFor(false))
@@ -371,10 +382,11 @@ void FKPTab::loadPolicySettings()
 
 void FKPTab::silentVerify()
 {
+    client->forgetRequests(); // they were for another printer or profile
     interactive = false;
     if (isSetOn(enabledKey))
-        startLogin(readSetting(serverKey), readSetting(portKey), readSetting(userKey),
-                   savedPassword());
+        startLogin(
+            {readSetting(serverKey), readSetting(portKey), readSetting(userKey), savedPassword()});
     // Until the answer is there; and those of the printer before have no say here.
     policies = PolicyReply::noRestrictions();
 }

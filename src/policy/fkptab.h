@@ -13,6 +13,10 @@ class bcurl;
 /// The page "Fleet Keeper": logs the user in at a print-policy server and lays its restrictions on
 /// the options.
 ///
+/// An answer counts for the latest login alone, and only as long as the fields hold its server,
+/// port and user, the switch was not turned off and the printer is still selected. Any other is
+/// stale and passes unnoticed, a failure too.
+///
 /// The restrictions are synthetic options; what they forbid is for the constraint engine. The page
 /// sets them after each answer. While it is switched on it has a mark, and so holds back OK and
 /// Apply, until the server has accepted exactly what the fields hold. Each reload logs in again by
@@ -51,22 +55,33 @@ public slots:
     void emit_colorchanged();
 
 private:
+    /// What a login is made with.
+    struct Login
+    {
+        QString server;
+        QString port;
+        QString user;
+        QString password;
+
+        bool operator!=(const Login &other) const;
+        bool isIncomplete() const;
+    };
+
     QLabel *addField(const char *labelName, const QString &labelText, QLineEdit **edit,
                      const char *editName, const char *pattern);
     void createLayout();
     bool isOn() const;
     void enableFields();
     void switchOptions();
-    bool isIncomplete() const;
+    Login fields() const;
     QString fault() const;
     void loadPolicySettings();
     void silentVerify();
-    void startLogin(const QString &server, const QString &port, const QString &user,
-                    const QString &password);
+    void startLogin(const Login &login);
     void applyPolicies();
     void reportVerifyResult(const QString &body);
     bool isStaleReply(const QString &message) const;
-    void recordVerified(bool on);
+    void recordVerified(const Login &login);
     void showMessage(const QString &text);
 
     BixButtonGroup *fkpButtons;
@@ -85,11 +100,9 @@ private:
 
     bcurl *client;
     bool credentialsChanged = false; ///< the fields differ from the last verified state
-    bool verifiedEnabled = false;    ///< the switch and the fields at the last accepted login or
-    QString verifiedServer;          ///< at loading
-    QString verifiedPort;
-    QString verifiedUser;
-    QString verifiedPassword;
+    Login requested;                 ///< what the latest request was made with
+    Login verified;                  ///< what was accepted last, or what was loaded
+    bool verifiedEnabled = false;    ///< the switch at that time
     Policies policies = PolicyReply::noRestrictions();
     bool interactive = false;    ///< the user started the running request
     bool verifySucceeded = true; ///< the last answer held policies
