@@ -275,7 +275,7 @@ void TestTab::loadsAndLeavesBlockedValues_data()
 list: a text is no saved value  | Media  | %media               | Media=A & B |             | 0  | [Plain paper] Thick A & B  | Plain
 list: option without choices    | Media  | Media 99             | Media=Thick |             | 0  |                            | MediaNULL
 list: its value                 | Media  | Media 9 A* B C       |             | A           | 10 | -A [B] C                   | B
-list: all values                | Media  | Media 9 A* B C       | Media=B     | A B C       | 00 | [-A] -B -C                 | B
+list: all values                | Media  | Media 9 A* B C       | Media=B     | A B C       | 100 | [-A] -B -C                 | B
 list: two choices of one text   | Media  | Media 9 A/X* B/X C   | Media=B     |             | 0  | [X] X C                    | A
 check box: no such option       | Skip   | Other 99 A           | Skip=True   |             | 0  | off disabled               |
 check box: on                   | Skip   | Skip 9 False* True   | Skip=True   | True        | 10 | off disabled               | False
