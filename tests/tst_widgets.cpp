@@ -203,7 +203,13 @@ void TestWidgets::disabledTabDrawsNothing()
         tabs.setTabText(1, text); // only this lays the bar out anew
         tabs.resize(400, 300);
         tabs.show();
-        return tabs.grab().toImage();
+        const QImage image = tabs.grab().toImage();
+        // The shade below the tabs begins below the last row of the bar.
+        const int bottom = tabs.tabBar()->geometry().bottom();
+        if (image.pixel(1, bottom) != image.pixel(1, bottom - 1) ||
+            image.pixel(1, bottom) == image.pixel(1, bottom + 1))
+            QTest::qFail("the shade begins elsewhere", __FILE__, __LINE__);
+        return image;
     };
     const QString icon = ":/icons/tab-basic";
     QCOMPARE(paint("Basic", icon, false), paint(QString(), QString(), false));
