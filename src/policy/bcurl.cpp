@@ -2,12 +2,15 @@
 
 #include <QNetworkRequest>
 #include <QPointer>
+#include <QTimer>
 #include <QUrl>
 
 namespace {
 
 const QLatin1String loginPath("/ws/user_manager/MobileAccess/MobileAccessRestService/loginPost");
-constexpr int firstErrorStatus = 400; // of HTTP: RFC 9110, section 15
+constexpr int firstErrorStatus = 400;     // of HTTP: RFC 9110, section 15
+constexpr qint64 longestAnswer = 1 << 20; // bytes; policies take far less
+constexpr int longestHeaderWait = 30000;  // ms
 
 /// The text of a query (RFC 3986, section 3.4) with nothing in it encoded. QUrlQuery would decode
 /// what was typed, "%41" to "A" say, and leave out the "=" before a null text.
@@ -31,8 +34,17 @@ void bcurl::post(const QString &url, const QString &user, const QString &passwor
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("text/*"));
     request.setRawHeader("charsets", "utf-8");
     request.setRawHeader("User-Agent", "BQP");
+    // A few bytes could unfold into gigabytes.
+    request.setRawHeader("Accept-Encoding", "identity");
 
     QNetworkReply *reply = manager->post(request, loginBody(user, password));
+    reply->setReadBufferSize(longestAnswer);
+    // A header without end would grow as long as the panel runs.
+    auto *headerWait = new QTimer(reply);
+    headerWait->setSingleShot(true);
+    connect(headerWait, &QTimer::timeout, reply, &QNetworkReply::abort);
+    connect(reply, &QNetworkReply::metaDataChanged, headerWait, &QTimer::stop);
+    headerWait->start(longestHeaderWait);
     reply->setObjectName(QStringLiteral("<%1 %2>").arg(url, user));
     connect(reply, &QNetworkReply::readyRead, this, &bcurl::slotReadyRead);
     connect(reply, SIGNAL(error(QNetworkReply::NetworkError)), this,
@@ -56,7 +68,10 @@ void bcurl::slotReadyRead()
         return;
     // The reply itself calls a status an error only at its end, which may be far off.
     const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    if (reply->error() != QNetworkReply::NoError || status >= firstErrorStatus)
+    const qint64 size = qMax(reply->header(QNetworkRequest::ContentLengthHeader).toLongLong(),
+                             reply->bytesAvailable());
+    if (reply->error() != QNetworkReply::NoError || status >= firstErrorStatus ||
+        size > longestAnswer)
         tell(reply, &bcurl::errorReady, reply->errorString());
     else
         // The pointer, so that the text ends at a zero byte.

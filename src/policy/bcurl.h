@@ -6,16 +6,16 @@
 
 /// The HTTPS client of the print-policy server: sends a login and hands the answer on.
 ///
-/// Requests neither wait for each other nor can be called back, only be forgotten, and have no time
-/// limit. Every message begins with a tag that names its request, "<https://HOST:PORT USER>".
-/// Certificates are not checked: the line is encrypted, but nobody vouches for who is at its other
-/// end.
+/// Requests don't wait for each other. Every message begins with a tag that names its request,
+/// "<https://HOST:PORT USER>". Certificates are not checked: the line is encrypted, but nobody
+/// vouches for who is at its other end.
 ///
 /// What a server does, and what comes of it:
 /// - An answer: one message, with as much of it as has arrived when the first piece has. The rest
 ///   is dropped, and so is the news that it never came.
-/// - No connection, a connection that ends before the answer, or an HTTP error status (400 and up)
-///   whatever comes with it: one error.
+/// - No connection, a connection that ends before the answer, an HTTP error status (400 and up)
+///   whatever comes with it, an answer of more than a megabyte, or no whole header within 30
+///   seconds: one error.
 /// - Success without a body: nothing at all.
 class bcurl : public QObject
 {

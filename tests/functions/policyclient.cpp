@@ -24,7 +24,9 @@ struct Answer
 
 constexpr Answer answersOfServer[] = {
     {"good", "http 200 2; printf {}", "{}", 0},
-    {"slow and huge", "sleep 1; http 200 9999999; yes '{' | tr -d '\\n' | head -c 9999999",
+    {"slow and huge", "sleep 1; http 200 9999999; yes '{' | tr -d '\\n' | head -c 9999999", nullptr,
+     1},
+    {"just a megabyte", "http 200 1048576; yes '{' | tr -d '\\n' | head -c 1048576",
      "{{{{{{{{{{{{{{{{{{{{", 0},
     {"other alphabet", "http 200 4; printf Zoë", "Zoë", 0},
     {"zero byte ends it", "http 200 3; printf 'a\\0b'", "a", 0},
