@@ -37,7 +37,7 @@ WATCHERS = {
     "constraintrules.cpp": ["tst_stores"],
     "finishinglayout.cpp": ["case_finishing", "case_languages", "tst_functions TestRotateTitle"],
     "finishingtab.cpp": ["case_finishing"],
-    "fkptab.cpp": ["case_policy"],
+    "fkplayout.cpp": ["case_policy"],
     "generaltab.cpp": ["case_basic"],
     "imaginglayout.cpp": ["case_imaging", "case_adjustments", "case_languages"],
     "jobtab.cpp": ["case_job", "case_accounts", "case_login"],
