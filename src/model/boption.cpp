@@ -74,6 +74,11 @@ void bOption::setDefaultChoice(OptionChoice *choice)
         defaultChoice_ = choice;
 }
 
+bool bOption::isArmed() const
+{
+    return current_ && current_->isArmed();
+}
+
 QString bOption::currentKey() const
 {
     return current_ ? current_->key() : key_ + Sentinel::noSelection;

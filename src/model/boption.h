@@ -55,6 +55,9 @@ public:
     /// Without effect for a pointer that is none of this option's choices.
     void setDefaultChoice(OptionChoice *choice);
 
+    /// False while the selected value, if there is one, holds up no other: see setCurrent().
+    bool isArmed() const;
+
     /// The selected value's key; the option's key followed by "NULL" when nothing is selected, so
     /// that it equals no real key.
     QString currentKey() const;

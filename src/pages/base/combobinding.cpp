@@ -113,9 +113,10 @@ bool ComboBinding::enableItems(Tab &page, ComboBoxEx *box, bOption *option)
     }
     if (!mustMove) {
         // A box that had nothing left to choose has posted no blocks; now it does again.
-        const OptionChoice *current = option->current();
+        if (option->isArmed() || !option->current())
+            return false;
         const OptionChoice *shown = option->findChoiceByText(box->currentText());
-        if (!current || current->isArmed() || !shown || shown->isBlocked())
+        if (!shown || shown->isBlocked())
             return false;
         page.applyWidgetValue(box->currentIndex(), box);
         return true;
@@ -125,7 +126,7 @@ bool ComboBinding::enableItems(Tab &page, ComboBoxEx *box, bOption *option)
     if (replacement < 0) {
         // Nothing is left to choose; what can't be printed must not hold up other options either.
         // Whatever that frees has to be looked at once more.
-        const bool freesOthers = option->current() && option->current()->isArmed();
+        const bool freesOthers = option->isArmed();
         option->setCurrent(nullptr);
         box->setCurrentIndex(0);
         return freesOthers;

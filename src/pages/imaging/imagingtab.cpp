@@ -220,10 +220,10 @@ bool ImagingTab::enableLeanPrint(bOption *option)
             switchTo(0);
         } else {
             // What can't be printed must not hold up other options.
-            changed = changed || option->current()->isArmed();
+            changed = changed || option->isArmed();
             option->setCurrent(nullptr);
         }
-    } else if (shown && option->current() && !option->current()->isArmed()) {
+    } else if (shown && option->current() && !option->isArmed()) {
         applyLeanPrint(); // something is left to choose again
         changed = true;
     }
