@@ -1,7 +1,8 @@
 #include "policy/bcurl.h"
 
+#include "policy/headerwait.h"
+
 #include <QNetworkRequest>
-#include <QPointer>
 #include <QTimer>
 #include <QUrl>
 
@@ -10,7 +11,6 @@ namespace {
 const QLatin1String loginPath("/ws/user_manager/MobileAccess/MobileAccessRestService/loginPost");
 constexpr int firstErrorStatus = 400;     // of HTTP: RFC 9110, section 15
 constexpr qint64 longestAnswer = 1 << 20; // bytes; policies take far less
-constexpr int longestHeaderWait = 30000;  // ms
 
 /// The text of a query (RFC 3986, section 3.4) with nothing in it encoded. QUrlQuery would decode
 /// what was typed, "%41" to "A" say, and leave out the "=" before a null text.
@@ -24,6 +24,7 @@ QByteArray loginBody(const QString &user, const QString &password)
 bcurl::bcurl(QObject *parent)
     : QObject(parent)
     , manager(new QNetworkAccessManager(this))
+    , waiting(std::make_unique<QObject>())
 {
     qRegisterMetaType<QNetworkReply::NetworkError>("QNetworkReply::NetworkError");
 }
@@ -39,12 +40,7 @@ void bcurl::post(const QString &url, const QString &user, const QString &passwor
 
     QNetworkReply *reply = manager->post(request, loginBody(user, password));
     reply->setReadBufferSize(longestAnswer);
-    // A header without end would grow as long as the panel runs.
-    auto *headerWait = new QTimer(reply);
-    headerWait->setSingleShot(true);
-    connect(headerWait, &QTimer::timeout, reply, &QNetworkReply::abort);
-    connect(reply, &QNetworkReply::metaDataChanged, headerWait, &QTimer::stop);
-    headerWait->start(longestHeaderWait);
+    new HeaderWait(reply);
     reply->setObjectName(QStringLiteral("<%1 %2>").arg(url, user));
     connect(reply, &QNetworkReply::readyRead, this, &bcurl::slotReadyRead);
     connect(reply, SIGNAL(error(QNetworkReply::NetworkError)), this,
@@ -57,8 +53,9 @@ void bcurl::forgetRequests()
     const auto replies = manager->findChildren<QNetworkReply *>();
     for (QNetworkReply *reply : replies) {
         disconnect(reply, nullptr, this, nullptr);
-        connect(reply, &QNetworkReply::finished, reply, &QObject::deleteLater);
+        reply->deleteLater();
     }
+    waiting = std::make_unique<QObject>();
 }
 
 void bcurl::slotReadyRead()
@@ -88,9 +85,9 @@ void bcurl::tell(QNetworkReply *reply, void (bcurl::*signal)(const QString &), c
 {
     // What comes later would count as an answer of its own.
     disconnect(reply, nullptr, this, nullptr);
-    // Whoever hears of the answer may open a dialog, and the reply may end while it is open.
-    const QPointer<QNetworkReply> stillThere = reply;
-    (this->*signal)(reply->objectName() + text);
-    if (stillThere)
-        reply->deleteLater();
+    reply->deleteLater();
+    // Whoever hears of it may open a dialog, behind which the rest of an answer without end would
+    // pile up: the reply goes first.
+    const QString message = reply->objectName() + text;
+    QTimer::singleShot(0, waiting.get(), [=] { (this->*signal)(message); });
 }
