@@ -6,6 +6,7 @@
 #include "desktop/desktopsettings.h"
 #include "model/optionstore.h"
 #include "model/printqueues.h"
+#include "pages/base/optionlabels.h"
 #include "pages/basic/generaltab.h"
 #include "pages/imaging/imagingtab.h"
 #include "pages/printer/printertab.h"
@@ -51,6 +52,9 @@ BixDialog::BixDialog(QWidget *parent)
     createPages();
     collector = std::make_unique<SettingsCollector>(pages);
     publication = std::make_unique<Publication>();
+    labels = std::make_unique<OptionLabels>(pages);
+    settling.setSingleShot(true);
+    connect(&settling, &QTimer::timeout, this, &BixDialog::settle);
     createButtons();
     createProfileDialogs();
     createTabs();
@@ -241,7 +245,14 @@ void BixDialog::setConstraints()
     else
         constraintPasses = 0;
     checkPrinters();
+    settling.start();
     emit constraintsWorkedOut();
+}
+
+void BixDialog::settle()
+{
+    if (auto *page = qobject_cast<Tab *>(tabWidget->currentWidget()))
+        page->explain(*labels);
 }
 
 bool BixDialog::runPass()

@@ -3,6 +3,7 @@
 #include "pages/base/paneldialog.h"
 
 #include <QList>
+#include <QTimer>
 
 #include <memory>
 
@@ -10,6 +11,8 @@ class AboutDialog;
 class BixTabWidget;
 class GeneralTab;
 class ImagingTab;
+class NoticeLine;
+class OptionLabels;
 class PrinterTab;
 class ProfileDialog;
 class ProfileSaveDialog;
@@ -49,6 +52,8 @@ private slots:
     void unselectPrinters();
     void slotButtonApply();
     void printerChanged(int row, int collumn, int previousRow, int previousCollumn);
+    /// Says what a click has led to, when all its passes are through.
+    void settle();
 
 public slots:
     void profileChanged() override;
@@ -88,6 +93,7 @@ private:
     bool passDue = false;          ///< something moved while a pass was running
     bool reloadPrinterTab = false; ///< only during the reload of a printer change
     bool published = false;        ///< the last publication reached its end
+    NoticeLine *notice;
     QPushButton *saveAsButton;
     QPushButton *profilesButton;
     QPushButton *logoButton;
@@ -101,6 +107,8 @@ private:
     GeneralTab *generalTab;
     ImagingTab *imagingTab;
     UserLoginTab *userLoginTab; ///< in no list: its settings reach no file, and it never shows
+    std::unique_ptr<OptionLabels> labels;
+    QTimer settling; ///< runs out when the click is over that led to a pass
     std::unique_ptr<SettingsCollector> collector;
     std::unique_ptr<Publication> publication;
 };

@@ -14,6 +14,7 @@
 #include "profiles/profiledialog.h"
 #include "profiles/profilesavedialog.h"
 #include "widgets/bixtabwidget.h"
+#include "widgets/noticeline.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -77,6 +78,7 @@ void BixDialog::createPages()
 
 void BixDialog::createButtons()
 {
+    notice = new NoticeLine(this);
     saveAsButton = new QPushButton(tr("Save As..."), this);
     profilesButton = new QPushButton(tr("Profiles") + QStringLiteral("..."), this);
 
@@ -131,6 +133,7 @@ void BixDialog::createTabs()
     for (Tab *page : qAsConst(pages))
         tabWidget->addTab(page, page->tabIcon(), page->tabName());
     enableTabs();
+    connect(tabWidget, &QTabWidget::currentChanged, this, &BixDialog::settle);
 }
 
 void BixDialog::createLayout()
@@ -141,6 +144,7 @@ void BixDialog::createLayout()
     // as it grows with every page that is shown for the first time.
     tabWidget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     grid->addWidget(tabWidget, 1, 1, 1, 8);
+    grid->addWidget(notice, 2, 1, 1, 5);
     grid->addWidget(saveAsButton, 2, 6, 1, 2, Qt::AlignRight);
     grid->addWidget(profilesButton, 2, 8, 1, 1);
     grid->addItem(new QSpacerItem(50, 23), 4, 1, 1, 3);

@@ -30,6 +30,7 @@ public:
 
     /// Changes the name only; the label follows with the next selection.
     void setTitle(const QString &title) { title_ = title; }
+    const QString &title() const { return title_; }
     /// Appends a button. `iconPath` names a picture of 50 x 50 pixels that has a partner whose path
     /// ends in "-selected". `untranslatedName` and `choiceKeys` are for untranslatedNames() and
     /// choiceKeysAt().

@@ -37,6 +37,12 @@ BixCheckBoxButton::BixCheckBoxButton(QWidget *parent, const QString &text, const
     }
 }
 
+QString BixCheckBoxButton::label() const
+{
+    const QString name = checkBox->accessibleName();
+    return name.isEmpty() ? checkBox->text() : name;
+}
+
 bool BixCheckBoxButton::isChecked() const
 {
     return checkBox->isChecked();

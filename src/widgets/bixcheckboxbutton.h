@@ -20,6 +20,8 @@ class BixCheckBoxButton : public QFrame
 public:
     BixCheckBoxButton(QWidget *parent, const QString &text, const QIcon &icon);
 
+    /// What the check box is called: its text, or the longer name that screen readers get.
+    QString label() const;
     bool isChecked() const;
     void setChecked(bool on);
 

@@ -1,6 +1,7 @@
 #include "widgets/constraintmark.h"
 
 #include <QLabel>
+#include <QTextDocumentFragment>
 
 namespace {
 
@@ -20,6 +21,15 @@ void setPlainText(QLabel *label, const QString &text)
 {
     label->setTextFormat(Qt::PlainText);
     label->setText(text);
+}
+
+QString plainText(const QLabel *label)
+{
+    if (label->textFormat() != Qt::RichText)
+        return label->text();
+    QString text = label->text();
+    text.remove(spacedImageText).remove(imageText);
+    return QTextDocumentFragment::fromHtml(text).toPlainText();
 }
 
 void append(QLabel *label)

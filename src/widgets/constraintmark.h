@@ -18,6 +18,8 @@ constexpr char icon[] = ":/icons/error";
 
 /// Shows the text as it is, whatever characters it holds, without a mark.
 void setPlainText(QLabel *label, const QString &text);
+/// What a person reads in the label, marks left out.
+QString plainText(const QLabel *label);
 void append(QLabel *label);
 /// Takes the image out with the blank before it.
 void remove(QLabel *label);

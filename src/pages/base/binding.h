@@ -51,6 +51,9 @@ public:
 
     // Of what shows an option's name and marks.
 
+    /// What the widget calls itself, as it shows it; empty if it has no name.
+    virtual QString label(const QWidget *) const { return {}; }
+
     /// Shows the option's name; null greys it.
     virtual void showOption(QWidget *, const bOption *) const {}
     /// Whether it can show a mark for a control beside it.

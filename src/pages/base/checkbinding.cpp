@@ -33,6 +33,11 @@ QString captionText(QString text)
     return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
+QString withoutCaption(QString text)
+{
+    return text.replace(QStringLiteral("&&"), QStringLiteral("&"));
+}
+
 bool isBlocked(const OptionChoice *choice)
 {
     return choice && choice->isBlocked();
@@ -116,6 +121,11 @@ void CheckBinding::showOption(QWidget *widget, const bOption *option) const
     box->setEnabled(option);
 }
 
+QString CheckBinding::label(const QWidget *widget) const
+{
+    return withoutCaption(static_cast<const QCheckBox *>(widget)->text());
+}
+
 void CheckBinding::mark(QWidget *widget) const
 {
     static_cast<QCheckBox *>(widget)->setIcon(QIcon(QLatin1String(ConstraintMark::icon)));
@@ -142,6 +152,11 @@ int RadioBinding::value(const QWidget *widget) const
 OptionChoice *RadioBinding::choice(const QWidget *, int value, const bOption *option) const
 {
     return option->findChoice(Keys::yesOrNo(value != 0));
+}
+
+QString RadioBinding::label(const QWidget *widget) const
+{
+    return withoutCaption(static_cast<const QRadioButton *>(widget)->text());
 }
 
 // A check box with a picture button
@@ -181,4 +196,9 @@ bool CheckButtonBinding::enableButton(Tab &page, BixCheckBoxButton *button, cons
 QString CheckButtonBinding::savedValue(const QWidget *widget, const bOption *) const
 {
     return Keys::yesOrNo(toButton(widget)->isChecked());
+}
+
+QString CheckButtonBinding::label(const QWidget *widget) const
+{
+    return toButton(widget)->label();
 }

@@ -17,6 +17,7 @@ public:
     bool enable(Tab &page, QWidget *widget, bOption *option) const override;
     QString savedValue(const QWidget *widget, const bOption *option) const override;
     bool marksItself() const override { return true; }
+    QString label(const QWidget *widget) const override;
     void showOption(QWidget *widget, const bOption *option) const override;
     void mark(QWidget *widget) const override;
     void clearMark(QWidget *widget) const override;
@@ -33,6 +34,7 @@ public:
     void connectTo(Tab &page, QWidget *widget) const override;
     int value(const QWidget *widget) const override;
     OptionChoice *choice(const QWidget *widget, int value, const bOption *option) const override;
+    QString label(const QWidget *widget) const override;
 };
 
 /// A check box with a picture button, and dependents that it switches. It shows no mark.
@@ -47,6 +49,7 @@ public:
     bool enable(Tab &page, QWidget *widget, bOption *option) const override;
     QString savedValue(const QWidget *widget, const bOption *option) const override;
     bool marksItself() const override { return true; }
+    QString label(const QWidget *widget) const override;
 
     static bool enableButton(Tab &page, BixCheckBoxButton *button, const bOption *option);
 };

@@ -159,6 +159,11 @@ QString GroupBinding::savedValue(const QWidget *widget, const bOption *option) c
     return shown ? shown->key() : QString();
 }
 
+QString GroupBinding::label(const QWidget *widget) const
+{
+    return toGroup(widget)->title();
+}
+
 void GroupBinding::mark(QWidget *widget) const
 {
     toGroup(widget)->markConstrained(true);

@@ -22,6 +22,11 @@ void LabelBinding::showOption(QWidget *widget, const bOption *option) const
     widget->setEnabled(option);
 }
 
+QString LabelBinding::label(const QWidget *widget) const
+{
+    return ConstraintMark::plainText(static_cast<const QLabel *>(widget));
+}
+
 void LabelBinding::mark(QWidget *widget) const
 {
     ConstraintMark::remove(toLabel(widget));

@@ -8,6 +8,7 @@ class LabelBinding : public Binding
 public:
     const char *className() const override { return "QLabel"; }
     void showOption(QWidget *widget, const bOption *option) const override;
+    QString label(const QWidget *widget) const override;
     bool marksAnother() const override { return true; }
     void mark(QWidget *widget) const override;
     void clearMark(QWidget *widget) const override;

@@ -13,6 +13,12 @@ QString withColon(const QString &text)
     return text + QLatin1Char(':');
 }
 
+QString withoutColon(const QString &text)
+{
+    const QString trimmed = text.trimmed();
+    return trimmed.endsWith(QLatin1Char(':')) ? trimmed.chopped(1).trimmed() : trimmed;
+}
+
 LabeledComboBox labeledComboBox(QWidget *page, const char *labelName, const char *boxName,
                                 const QString &labelText, int width)
 {

@@ -42,6 +42,8 @@ Widget *named(Widget *widget, const char *accessibleName)
 }
 
 QString withColon(const QString &text);
+/// Without the colon and the blanks at its end.
+QString withoutColon(const QString &text);
 
 /// `width` in pixels fixes the box; with 0 it is as wide as its longest item.
 LabeledComboBox labeledComboBox(QWidget *page, const char *labelName, const char *boxName,

@@ -7,6 +7,7 @@
 #include "pages/base/checkbinding.h"
 #include "pages/base/combobinding.h"
 #include "pages/base/groupbinding.h"
+#include "pages/base/pagewidgets.h"
 #include "storage/settingsfile.h"
 #include "widgets/bixbuttongroup.h"
 #include "widgets/bixcheckboxbutton.h"
@@ -75,6 +76,30 @@ bool Tab::isAvailable()
 bOption *Tab::findOption(const QString &keyword)
 {
     return currentOption(keyword);
+}
+
+QString Tab::label(const QString &keyword) const
+{
+    for (const WidgetMap *widgets : {&markWidgets, &boundWidgets}) {
+        const QWidget *widget = widgets->value(keyword);
+        const QString text = PageWidgets::withoutColon(Binding::of(widget).label(widget));
+        if (!text.isEmpty())
+            return text;
+    }
+    return QString();
+}
+
+QStringList Tab::followersOf(const QString &keyword) const
+{
+    const auto *button = qobject_cast<const BixCheckBoxButton *>(boundWidgets.value(keyword));
+    QStringList followers;
+    const QList<QWidget *> dependents = button ? button->dependents() : QList<QWidget *>();
+    for (const QWidget *dependent : dependents) {
+        const QString follower = boundWidgets.key(dependent, QString());
+        if (!follower.isEmpty())
+            followers.append(follower);
+    }
+    return followers;
 }
 
 // Loading

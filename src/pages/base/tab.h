@@ -15,6 +15,7 @@ class BixButtonGroup;
 class BixCheckBoxButton;
 class ComboBoxEx;
 class OptionChoice;
+class OptionLabels;
 class QCheckBox;
 class QSlider;
 class bOption;
@@ -102,6 +103,17 @@ public slots:
 public:
     /// The title in the list of pages.
     QString tabName();
+    /// Says in tool tips and accessible descriptions why what is greyed is greyed. Runs for the page
+    /// that shows, once after each click, when all passes are through.
+    virtual void explain(const OptionLabels &) {}
+    /// What the page calls the option of a keyword, without a colon; empty for one that it has no
+    /// control for.
+    virtual QString label(const QString &keyword) const;
+    /// The keywords that follow the switch of this keyword: those of its dependents. Whoever hears
+    /// of the switch knows of them.
+    virtual QStringList followersOf(const QString &keyword) const;
+    /// The control of a keyword, or null.
+    QWidget *control(const QString &keyword) const { return boundWidgets.value(keyword); }
     /// False for the Printer page: installed options are the printer's and no user's.
     virtual bool hasUserSettings() const { return true; }
     /// Forgets marks of the pass before.

@@ -16,6 +16,7 @@
 // they stand for.
 
 using PageWidgets::named;
+using PageWidgets::withoutColon;
 
 namespace {
 
@@ -149,6 +150,25 @@ void FinishingTab::registerWidgets()
     addDependents(BiFold, {BiFoldSheets});
     addDependents(Punch, {PunchMethod});
     addDependents(Staple, {StapleMethod, StapleLocation});
+}
+
+QString FinishingTab::label(const QString &keyword) const
+{
+    QWidget *widget = boundWidgets.value(keyword);
+    if (widget == buttons[Punch])
+        return tr("Hole punch");
+    QString text = Tab::label(keyword);
+    // The headings are translated, the captions of the buttons are not; the lists are labelled, but
+    // not all of them marked.
+    for (int i = 0; i < ModeCount && widget; ++i) {
+        if (widget == buttons[i])
+            text = headings[i]->text();
+    }
+    for (int i = 0; i < ListCount && widget; ++i) {
+        if (widget == lists[i].box && !markWidgets.value(keyword))
+            text = lists[i].label->text();
+    }
+    return withoutColon(text);
 }
 
 void FinishingTab::addDependents(Mode mode, const QList<List> &dependents)

@@ -266,6 +266,16 @@ bool FinishingTab::hasMarks()
     return isAvailable() && (marked || foldMarked);
 }
 
+QStringList FinishingTab::followersOf(const QString &keyword) const
+{
+    QStringList followers = Tab::followersOf(keyword);
+    // What kind of fold it is has no list: the buttons say it.
+    if (keyword == boundWidgets.key(buttons[TriFold]) ||
+        keyword == boundWidgets.key(buttons[BiFold]))
+        followers.append(foldKeyword);
+    return followers;
+}
+
 QHash<QString, QString> FinishingTab::collectSettings()
 {
     collectBoundWidgets();

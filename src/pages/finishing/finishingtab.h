@@ -26,6 +26,8 @@ public:
     void markKeyword(const QString &keyword, const QString &value) override;
     void clearMarks() override;
     bool hasMarks() override;
+    QString label(const QString &keyword) const override;
+    QStringList followersOf(const QString &keyword) const override;
     void resetForDisabled() override;
 
     virtual void connectSignals();

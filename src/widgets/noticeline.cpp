@@ -1,0 +1,84 @@
+#include "widgets/noticeline.h"
+
+#include <QAccessible>
+
+NoticeLine::NoticeLine(QWidget *parent)
+    : QLabel(parent)
+{
+    // As wide as the layout lets it be, whatever it says.
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    setTextFormat(Qt::RichText); // of plain text and a link
+    setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+}
+
+void NoticeLine::tell(const Sentence &sentence, const QStringList &items, const QString &link)
+{
+    sentence_ = sentence;
+    items_ = items;
+    link_ = link;
+    setToolTip(sentence_(items_.join(QStringLiteral(", "))));
+    showFitting();
+    announce();
+}
+
+void NoticeLine::forget()
+{
+    sentence_ = nullptr;
+    items_.clear();
+    link_.clear();
+    setToolTip(QString());
+    showFitting();
+}
+
+void NoticeLine::showWork(const QString &text)
+{
+    work_ = text;
+    showFitting();
+    announce();
+}
+
+void NoticeLine::endWork()
+{
+    work_.clear();
+    showFitting();
+}
+
+void NoticeLine::resizeEvent(QResizeEvent *event)
+{
+    QLabel::resizeEvent(event);
+    showFitting();
+}
+
+QString NoticeLine::listOf(int count) const
+{
+    const QString shown = items_.mid(0, count).join(QStringLiteral(", "));
+    const int more = items_.size() - count;
+    if (more == 0)
+        return shown;
+    return more == 1 ? tr("%1 and one more").arg(shown) : tr("%1 and %2 more").arg(shown).arg(more);
+}
+
+void NoticeLine::showFitting()
+{
+    if (!work_.isEmpty() || !sentence_) {
+        setText(work_.toHtmlEscaped());
+        return;
+    }
+    const QString blank = QStringLiteral(" ");
+    const int room =
+        width() - fontMetrics().horizontalAdvance(link_.isEmpty() ? link_ : blank + link_);
+    int count = items_.size();
+    QString text = sentence_(listOf(count));
+    while (count > 1 && fontMetrics().horizontalAdvance(text) > room)
+        text = sentence_(listOf(--count));
+    text = fontMetrics().elidedText(text, Qt::ElideRight, room).toHtmlEscaped();
+    if (!link_.isEmpty())
+        text += QStringLiteral(" <a href=\"#\">%1</a>").arg(link_.toHtmlEscaped());
+    setText(text);
+}
+
+void NoticeLine::announce()
+{
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
