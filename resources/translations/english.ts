@@ -128,6 +128,13 @@ Reloading list now.</translation>
     </message>
 </context>
 <context>
+    <name>BixTabWidget</name>
+    <message>
+        <source>Something has changed here.</source>
+        <translation>Something has changed here.</translation>
+    </message>
+</context>
+<context>
     <name>BookletTab</name>
     <message>
         <source>Off</source>
@@ -152,6 +159,53 @@ Reloading list now.</translation>
     <message>
         <source>Booklet fold</source>
         <translation>Booklet fold</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeReport</name>
+    <message>
+        <source>The policy server</source>
+        <translation>The policy server</translation>
+    </message>
+    <message>
+        <source>Switched off: %1.</source>
+        <translation>Switched off: %1.</translation>
+    </message>
+    <message>
+        <source>Changed: %1.</source>
+        <translation>Changed: %1.</translation>
+    </message>
+    <message>
+        <source>%1 switched off: %2.</source>
+        <translation>%1 switched off: %2.</translation>
+    </message>
+    <message>
+        <source>%1 changed: %2.</source>
+        <translation>%1 changed: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was switched off by %2.</source>
+        <translation>%1 was switched off by %2.</translation>
+    </message>
+    <message>
+        <source>%1 were switched off by %2.</source>
+        <translation>%1 were switched off by %2.</translation>
+    </message>
+    <message>
+        <source>Changed by %2: %1.</source>
+        <translation>Changed by %2: %1.</translation>
+    </message>
+    <message>
+        <source>Switch on again</source>
+        <translation>Switch on again</translation>
+    </message>
+    <message>
+        <source>Change back</source>
+        <translation>Change back</translation>
+    </message>
+    <message>
+        <source>Adjusted to this printer: %1.</source>
+        <translation>Adjusted to this printer: %1.</translation>
     </message>
 </context>
 <context>
@@ -307,6 +361,10 @@ Credentials and policies will be checked again during printing.
     <message>
         <source>Separation</source>
         <translation>Separation</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Hole punch</translation>
     </message>
 </context>
 <context>
@@ -619,6 +677,38 @@ For example: %1</translation>
     <message>
         <source>Legal Notices</source>
         <translation>Legal Notices</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeLine</name>
+    <message>
+        <source>%1 %2 (%3)</source>
+        <comment>sentence, offer, keys</comment>
+        <translation>%1 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>%1 and one more</source>
+        <translation>%1 and one more</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 and %2 more</translation>
+    </message>
+</context>
+<context>
+    <name>OptionLabels</name>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>option and value</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -128,6 +128,13 @@ La liste va être rechargée.</translation>
     </message>
 </context>
 <context>
+    <name>BixTabWidget</name>
+    <message>
+        <source>Something has changed here.</source>
+        <translation>Quelque chose a changé ici.</translation>
+    </message>
+</context>
+<context>
     <name>BookletTab</name>
     <message>
         <source>Off</source>
@@ -152,6 +159,53 @@ La liste va être rechargée.</translation>
     <message>
         <source>Booklet fold</source>
         <translation>Pliage en livret</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeReport</name>
+    <message>
+        <source>The policy server</source>
+        <translation>Le serveur de règles</translation>
+    </message>
+    <message>
+        <source>Switched off: %1.</source>
+        <translation>Désactivé : %1.</translation>
+    </message>
+    <message>
+        <source>Changed: %1.</source>
+        <translation>Modifié : %1.</translation>
+    </message>
+    <message>
+        <source>%1 switched off: %2.</source>
+        <translation>%1 a désactivé : %2.</translation>
+    </message>
+    <message>
+        <source>%1 changed: %2.</source>
+        <translation>%1 a modifié : %2.</translation>
+    </message>
+    <message>
+        <source>%1 was switched off by %2.</source>
+        <translation>Désactivé par %2 : %1.</translation>
+    </message>
+    <message>
+        <source>%1 were switched off by %2.</source>
+        <translation>Désactivés par %2 : %1.</translation>
+    </message>
+    <message>
+        <source>Changed by %2: %1.</source>
+        <translation>Modifié par %2 : %1.</translation>
+    </message>
+    <message>
+        <source>Switch on again</source>
+        <translation>Réactiver</translation>
+    </message>
+    <message>
+        <source>Change back</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Adjusted to this printer: %1.</source>
+        <translation>Adapté à cette imprimante : %1.</translation>
     </message>
 </context>
 <context>
@@ -307,6 +361,10 @@ Les informations de connexion et les règles seront de nouveau vérifiées lors 
     <message>
         <source>Separation</source>
         <translation>Séparation</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforation</translation>
     </message>
 </context>
 <context>
@@ -619,6 +677,38 @@ Par exemple : %1</translation>
     <message>
         <source>Legal Notices</source>
         <translation>Mentions légales</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeLine</name>
+    <message>
+        <source>%1 %2 (%3)</source>
+        <comment>sentence, offer, keys</comment>
+        <translation>%1 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>%1 and one more</source>
+        <translation>%1 et un autre</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 autres</translation>
+    </message>
+</context>
+<context>
+    <name>OptionLabels</name>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>option and value</comment>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>

@@ -128,6 +128,13 @@ Die Liste wird neu geladen.</translation>
     </message>
 </context>
 <context>
+    <name>BixTabWidget</name>
+    <message>
+        <source>Something has changed here.</source>
+        <translation>Hier hat sich etwas geändert.</translation>
+    </message>
+</context>
+<context>
     <name>BookletTab</name>
     <message>
         <source>Off</source>
@@ -152,6 +159,53 @@ Die Liste wird neu geladen.</translation>
     <message>
         <source>Booklet fold</source>
         <translation>Broschürenfalz</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeReport</name>
+    <message>
+        <source>The policy server</source>
+        <translation>Der Richtlinienserver</translation>
+    </message>
+    <message>
+        <source>Switched off: %1.</source>
+        <translation>Ausgeschaltet: %1.</translation>
+    </message>
+    <message>
+        <source>Changed: %1.</source>
+        <translation>Geändert: %1.</translation>
+    </message>
+    <message>
+        <source>%1 switched off: %2.</source>
+        <translation>%1 hat ausgeschaltet: %2.</translation>
+    </message>
+    <message>
+        <source>%1 changed: %2.</source>
+        <translation>%1 hat geändert: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was switched off by %2.</source>
+        <translation>Durch %2 ausgeschaltet: %1.</translation>
+    </message>
+    <message>
+        <source>%1 were switched off by %2.</source>
+        <translation>Durch %2 ausgeschaltet: %1.</translation>
+    </message>
+    <message>
+        <source>Changed by %2: %1.</source>
+        <translation>Durch %2 geändert: %1.</translation>
+    </message>
+    <message>
+        <source>Switch on again</source>
+        <translation>Wieder einschalten</translation>
+    </message>
+    <message>
+        <source>Change back</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Adjusted to this printer: %1.</source>
+        <translation>An diesen Drucker angepasst: %1.</translation>
     </message>
 </context>
 <context>
@@ -307,6 +361,10 @@ Anmeldedaten und Richtlinien werden beim Drucken erneut geprüft.
     <message>
         <source>Separation</source>
         <translation>Trennung</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Lochen</translation>
     </message>
 </context>
 <context>
@@ -619,6 +677,38 @@ Zum Beispiel: %1</translation>
     <message>
         <source>Legal Notices</source>
         <translation>Rechtliche Hinweise</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeLine</name>
+    <message>
+        <source>%1 %2 (%3)</source>
+        <comment>sentence, offer, keys</comment>
+        <translation>%1 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>%1 and one more</source>
+        <translation>%1 und eine weitere</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>OptionLabels</name>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>option and value</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

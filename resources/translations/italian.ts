@@ -128,6 +128,13 @@ L&apos;elenco viene ricaricato.</translation>
     </message>
 </context>
 <context>
+    <name>BixTabWidget</name>
+    <message>
+        <source>Something has changed here.</source>
+        <translation>Qui qualcosa è cambiato.</translation>
+    </message>
+</context>
+<context>
     <name>BookletTab</name>
     <message>
         <source>Off</source>
@@ -152,6 +159,53 @@ L&apos;elenco viene ricaricato.</translation>
     <message>
         <source>Booklet fold</source>
         <translation>Piegatura a opuscolo</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeReport</name>
+    <message>
+        <source>The policy server</source>
+        <translation>Il server dei criteri</translation>
+    </message>
+    <message>
+        <source>Switched off: %1.</source>
+        <translation>Disattivato: %1.</translation>
+    </message>
+    <message>
+        <source>Changed: %1.</source>
+        <translation>Modificato: %1.</translation>
+    </message>
+    <message>
+        <source>%1 switched off: %2.</source>
+        <translation>%1 ha disattivato: %2.</translation>
+    </message>
+    <message>
+        <source>%1 changed: %2.</source>
+        <translation>%1 ha modificato: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was switched off by %2.</source>
+        <translation>Disattivato da %2: %1.</translation>
+    </message>
+    <message>
+        <source>%1 were switched off by %2.</source>
+        <translation>Disattivati da %2: %1.</translation>
+    </message>
+    <message>
+        <source>Changed by %2: %1.</source>
+        <translation>Modificato da %2: %1.</translation>
+    </message>
+    <message>
+        <source>Switch on again</source>
+        <translation>Riattiva</translation>
+    </message>
+    <message>
+        <source>Change back</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Adjusted to this printer: %1.</source>
+        <translation>Adattato a questa stampante: %1.</translation>
     </message>
 </context>
 <context>
@@ -307,6 +361,10 @@ Le credenziali e i criteri verranno verificati di nuovo durante la stampa.
     <message>
         <source>Separation</source>
         <translation>Separazione</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforazione</translation>
     </message>
 </context>
 <context>
@@ -619,6 +677,38 @@ Ad esempio: %1</translation>
     <message>
         <source>Legal Notices</source>
         <translation>Note legali</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeLine</name>
+    <message>
+        <source>%1 %2 (%3)</source>
+        <comment>sentence, offer, keys</comment>
+        <translation>%1 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>%1 and one more</source>
+        <translation>%1 e un altro</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 e altri %2</translation>
+    </message>
+</context>
+<context>
+    <name>OptionLabels</name>
+    <message>
+        <source>On</source>
+        <translation>Attivato</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>option and value</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -128,6 +128,13 @@ A lista vai ser recarregada.</translation>
     </message>
 </context>
 <context>
+    <name>BixTabWidget</name>
+    <message>
+        <source>Something has changed here.</source>
+        <translation>Algo mudou aqui.</translation>
+    </message>
+</context>
+<context>
     <name>BookletTab</name>
     <message>
         <source>Off</source>
@@ -152,6 +159,53 @@ A lista vai ser recarregada.</translation>
     <message>
         <source>Booklet fold</source>
         <translation>Dobra de livreto</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeReport</name>
+    <message>
+        <source>The policy server</source>
+        <translation>O servidor de políticas</translation>
+    </message>
+    <message>
+        <source>Switched off: %1.</source>
+        <translation>Desativado: %1.</translation>
+    </message>
+    <message>
+        <source>Changed: %1.</source>
+        <translation>Alterado: %1.</translation>
+    </message>
+    <message>
+        <source>%1 switched off: %2.</source>
+        <translation>%1 desativou: %2.</translation>
+    </message>
+    <message>
+        <source>%1 changed: %2.</source>
+        <translation>%1 alterou: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was switched off by %2.</source>
+        <translation>Desativado por %2: %1.</translation>
+    </message>
+    <message>
+        <source>%1 were switched off by %2.</source>
+        <translation>Desativados por %2: %1.</translation>
+    </message>
+    <message>
+        <source>Changed by %2: %1.</source>
+        <translation>Alterado por %2: %1.</translation>
+    </message>
+    <message>
+        <source>Switch on again</source>
+        <translation>Ativar novamente</translation>
+    </message>
+    <message>
+        <source>Change back</source>
+        <translation>Repor</translation>
+    </message>
+    <message>
+        <source>Adjusted to this printer: %1.</source>
+        <translation>Adaptado a esta impressora: %1.</translation>
     </message>
 </context>
 <context>
@@ -307,6 +361,10 @@ As credenciais e as políticas serão verificadas novamente durante a impressão
     <message>
         <source>Separation</source>
         <translation>Separação</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perfuração</translation>
     </message>
 </context>
 <context>
@@ -619,6 +677,38 @@ Por exemplo: %1</translation>
     <message>
         <source>Legal Notices</source>
         <translation>Avisos legais</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeLine</name>
+    <message>
+        <source>%1 %2 (%3)</source>
+        <comment>sentence, offer, keys</comment>
+        <translation>%1 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>%1 and one more</source>
+        <translation>%1 e mais um</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 e mais %2</translation>
+    </message>
+</context>
+<context>
+    <name>OptionLabels</name>
+    <message>
+        <source>On</source>
+        <translation>Ativado</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desativado</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>option and value</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

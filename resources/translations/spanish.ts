@@ -128,6 +128,13 @@ Se volverá a cargar la lista.</translation>
     </message>
 </context>
 <context>
+    <name>BixTabWidget</name>
+    <message>
+        <source>Something has changed here.</source>
+        <translation>Algo ha cambiado aquí.</translation>
+    </message>
+</context>
+<context>
     <name>BookletTab</name>
     <message>
         <source>Off</source>
@@ -152,6 +159,53 @@ Se volverá a cargar la lista.</translation>
     <message>
         <source>Booklet fold</source>
         <translation>Plegado de folleto</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeReport</name>
+    <message>
+        <source>The policy server</source>
+        <translation>El servidor de directivas</translation>
+    </message>
+    <message>
+        <source>Switched off: %1.</source>
+        <translation>Desactivado: %1.</translation>
+    </message>
+    <message>
+        <source>Changed: %1.</source>
+        <translation>Cambiado: %1.</translation>
+    </message>
+    <message>
+        <source>%1 switched off: %2.</source>
+        <translation>%1 ha desactivado: %2.</translation>
+    </message>
+    <message>
+        <source>%1 changed: %2.</source>
+        <translation>%1 ha cambiado: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was switched off by %2.</source>
+        <translation>Desactivado por %2: %1.</translation>
+    </message>
+    <message>
+        <source>%1 were switched off by %2.</source>
+        <translation>Desactivados por %2: %1.</translation>
+    </message>
+    <message>
+        <source>Changed by %2: %1.</source>
+        <translation>Cambiado por %2: %1.</translation>
+    </message>
+    <message>
+        <source>Switch on again</source>
+        <translation>Volver a activar</translation>
+    </message>
+    <message>
+        <source>Change back</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <source>Adjusted to this printer: %1.</source>
+        <translation>Adaptado a esta impresora: %1.</translation>
     </message>
 </context>
 <context>
@@ -307,6 +361,10 @@ Las credenciales y las directivas se volverán a comprobar durante la impresión
     <message>
         <source>Separation</source>
         <translation>Separación</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforación</translation>
     </message>
 </context>
 <context>
@@ -619,6 +677,38 @@ Por ejemplo: %1</translation>
     <message>
         <source>Legal Notices</source>
         <translation>Avisos legales</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeLine</name>
+    <message>
+        <source>%1 %2 (%3)</source>
+        <comment>sentence, offer, keys</comment>
+        <translation>%1 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>%1 and one more</source>
+        <translation>%1 y uno más</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 y %2 más</translation>
+    </message>
+</context>
+<context>
+    <name>OptionLabels</name>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>option and value</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

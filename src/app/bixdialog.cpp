@@ -1,8 +1,8 @@
 #include "app/bixdialog.h"
 
+#include "app/changereport.h"
 #include "app/publication.h"
 #include "app/settingscollector.h"
-#include "app/telemetrydialog.h"
 #include "desktop/desktopsettings.h"
 #include "model/optionstore.h"
 #include "model/printqueues.h"
@@ -17,16 +17,9 @@
 #include "widgets/bixtabwidget.h"
 
 #include <QDialogButtonBox>
-#include <QFile>
-#include <QGuiApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QScreen>
-#include <QTabBar>
-
-#include <cstdlib>
-#include <unistd.h>
 
 namespace {
 
@@ -34,78 +27,7 @@ constexpr int mostRepeats = 10;
 
 } // namespace
 
-// Construction
-
-BixDialog::BixDialog(QWidget *parent)
-    : PanelDialog(parent)
-{
-    userDir = userDirectory();
-    refuseRoot(windowTitle());
-    if (OwnFile::isOwnDirectory(userDir))
-        askAboutCollection();
-    else
-        tellOfForeignDirectory();
-
-    setFixedSize(800, 735);
-    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-    setBackground();
-    createPages();
-    collector = std::make_unique<SettingsCollector>(pages);
-    publication = std::make_unique<Publication>();
-    labels = std::make_unique<OptionLabels>(pages);
-    settling.setSingleShot(true);
-    connect(&settling, &QTimer::timeout, this, &BixDialog::settle);
-    createButtons();
-    createProfileDialogs();
-    createTabs();
-    createLayout();
-    setWindowTitle(tr("Brixola Press Desk"));
-    styleTabs();
-    buttonBox->button(QDialogButtonBox::Ok)->clearFocus();
-    // The focus has to be somewhere when the window is activated, and not in the printer table,
-    // where a stray key would select a printer.
-    tabWidget->tabBar()->setFocus();
-}
-
-BixDialog::~BixDialog() = default;
-
-void BixDialog::refuseRoot(const QString &title)
-{
-    if (geteuid() != 0)
-        return;
-    QMessageBox box;
-    box.setWindowTitle(tr("Press Desk"));
-    box.setText(tr("Please do not run %1 as root.").arg(title));
-    box.exec();
-    std::exit(0);
-}
-
-void BixDialog::tellOfForeignDirectory()
-{
-    QString directory = userDir;
-    if (directory.endsWith(QLatin1Char('/')))
-        directory.chop(1);
-    QMessageBox box;
-    box.setWindowTitle(tr("Press Desk"));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(
-        tr("The folder %1 is a link, or it belongs to somebody else (%2). Your settings are "
-           "neither read from it nor saved in it. Ask an administrator to remove it or to "
-           "make you its owner.")
-            .arg(directory, OwnFile::ownerName(userDir)));
-    box.exec();
-}
-
-void BixDialog::askAboutCollection()
-{
-    if (QFile::exists(userDir + QStringLiteral("Settings")))
-        return;
-    TelemetryDialog question(this);
-    // This window, which it would be put on, doesn't show yet.
-    question.move(QGuiApplication::primaryScreen()->availableGeometry().center() -
-                  question.rect().center());
-    question.exec();
-}
+// The window
 
 void BixDialog::showEvent(QShowEvent *event)
 {
@@ -183,6 +105,7 @@ void BixDialog::profileChanged()
 {
     if (!currentStore)
         return;
+    report->startOver();
     currentStore->releaseAllConstraints();
     for (Tab *page : qAsConst(pages)) {
         if (page == printerTab) {
@@ -206,6 +129,8 @@ void BixDialog::unselectPrinters()
     setButtonsEnabled(false);
     setProfileButtonsEnabled(false);
     enableTabs();
+    report->startOver();
+    settling.start();
 }
 
 bool BixDialog::checkPrinters()
@@ -236,21 +161,35 @@ void BixDialog::setConstraints()
     if (!currentStore)
         return;
     // A page that moves a widget says so in the middle of a pass: the one that runs sees to it.
+    report->noteSender(sender());
     if (passRunning) {
         passDue = true;
         return;
     }
+    beginMoves();
     if (runPass() && constraintPasses++ < mostRepeats)
         setConstraints();
     else
         constraintPasses = 0;
+    endMoves();
     checkPrinters();
     settling.start();
     emit constraintsWorkedOut();
 }
 
+void BixDialog::beginMoves()
+{
+    report->beginMoves();
+}
+
+void BixDialog::endMoves()
+{
+    report->endMoves();
+}
+
 void BixDialog::settle()
 {
+    report->settle();
     if (auto *page = qobject_cast<Tab *>(tabWidget->currentWidget()))
         page->explain(*labels);
 }

@@ -9,6 +9,7 @@
 
 class AboutDialog;
 class BixTabWidget;
+class ChangeReport;
 class GeneralTab;
 class ImagingTab;
 class NoticeLine;
@@ -39,6 +40,8 @@ public:
     explicit BixDialog(QWidget *parent = nullptr);
     ~BixDialog() override;
 
+    void beginMoves() override;
+    void endMoves() override;
     void recordInstalledValues() override;
     void showApplied() override;
 
@@ -108,6 +111,7 @@ private:
     ImagingTab *imagingTab;
     UserLoginTab *userLoginTab; ///< in no list: its settings reach no file, and it never shows
     std::unique_ptr<OptionLabels> labels;
+    std::unique_ptr<ChangeReport> report;
     QTimer settling; ///< runs out when the click is over that led to a pass
     std::unique_ptr<SettingsCollector> collector;
     std::unique_ptr<Publication> publication;

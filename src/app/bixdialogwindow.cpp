@@ -1,6 +1,10 @@
 #include "app/aboutdialog.h"
 #include "app/bixdialog.h"
+#include "app/changereport.h"
+#include "app/publication.h"
 #include "app/settingscollector.h"
+#include "app/telemetrydialog.h"
+#include "pages/base/optionlabels.h"
 #include "pages/basic/generaltab.h"
 #include "pages/finishing/finishingtab.h"
 #include "pages/imaging/imagingtab.h"
@@ -13,14 +17,24 @@
 #include "policy/fkptab.h"
 #include "profiles/profiledialog.h"
 #include "profiles/profilesavedialog.h"
+#include "storage/ownfile.h"
+#include "storage/settingsfile.h"
 #include "widgets/bixtabwidget.h"
 #include "widgets/noticeline.h"
 
 #include <QDialogButtonBox>
+#include <QFile>
 #include <QGridLayout>
+#include <QGuiApplication>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
 #include <QTabBar>
 #include <QTableWidget>
+
+#include <cstdlib>
+#include <unistd.h>
 
 // How the main window is put together, and how it looks.
 
@@ -47,6 +61,85 @@ void setBrush(QWidget *widget, QPalette::ColorRole role, const QBrush &brush)
 }
 
 } // namespace
+
+// The start
+
+BixDialog::BixDialog(QWidget *parent)
+    : PanelDialog(parent)
+{
+    userDir = userDirectory();
+    refuseRoot(windowTitle());
+    if (OwnFile::isOwnDirectory(userDir))
+        askAboutCollection();
+    else
+        tellOfForeignDirectory();
+
+    setFixedSize(800, 735);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setBackground();
+    createPages();
+    collector = std::make_unique<SettingsCollector>(pages);
+    publication = std::make_unique<Publication>();
+    labels = std::make_unique<OptionLabels>(pages);
+    settling.setSingleShot(true);
+    connect(&settling, &QTimer::timeout, this, &BixDialog::settle);
+    createButtons();
+    createProfileDialogs();
+    createTabs();
+    report = std::make_unique<ChangeReport>(pages, *labels, notice, tabWidget);
+    const auto restore = [this] { report->restore(); };
+    connect(notice, &QLabel::linkActivated, this, restore);
+    connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this, restore);
+    createLayout();
+    setWindowTitle(tr("Brixola Press Desk"));
+    styleTabs();
+    buttonBox->button(QDialogButtonBox::Ok)->clearFocus();
+    // The focus has to be somewhere when the window is activated, and not in the printer table,
+    // where a stray key would select a printer.
+    tabWidget->tabBar()->setFocus();
+}
+
+BixDialog::~BixDialog() = default;
+
+void BixDialog::refuseRoot(const QString &title)
+{
+    if (geteuid() != 0)
+        return;
+    QMessageBox box;
+    box.setWindowTitle(tr("Press Desk"));
+    box.setText(tr("Please do not run %1 as root.").arg(title));
+    box.exec();
+    std::exit(0);
+}
+
+void BixDialog::tellOfForeignDirectory()
+{
+    QString directory = userDir;
+    if (directory.endsWith(QLatin1Char('/')))
+        directory.chop(1);
+    QMessageBox box;
+    box.setWindowTitle(tr("Press Desk"));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(
+        tr("The folder %1 is a link, or it belongs to somebody else (%2). Your settings are "
+           "neither read from it nor saved in it. Ask an administrator to remove it or to "
+           "make you its owner.")
+            .arg(directory, OwnFile::ownerName(userDir)));
+    box.exec();
+}
+
+void BixDialog::askAboutCollection()
+{
+    if (QFile::exists(userDir + QStringLiteral("Settings")))
+        return;
+    TelemetryDialog question(this);
+    // This window, which it would be put on, doesn't show yet.
+    question.move(QGuiApplication::primaryScreen()->availableGeometry().center() -
+                  question.rect().center());
+    question.exec();
+}
+
+// The parts of the window
 
 void BixDialog::setBackground()
 {
@@ -144,7 +237,12 @@ void BixDialog::createLayout()
     // as it grows with every page that is shown for the first time.
     tabWidget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     grid->addWidget(tabWidget, 1, 1, 1, 8);
-    grid->addWidget(notice, 2, 1, 1, 5);
+    // In all columns, whatever room they share out: it stops short of the buttons by itself.
+    grid->addWidget(notice, 2, 1, 1, 8);
+    notice->setContentsMargins(0, 0,
+                               saveAsButton->sizeHint().width() +
+                                   profilesButton->sizeHint().width() + 3 * grid->spacing(),
+                               0);
     grid->addWidget(saveAsButton, 2, 6, 1, 2, Qt::AlignRight);
     grid->addWidget(profilesButton, 2, 8, 1, 1);
     grid->addItem(new QSpacerItem(50, 23), 4, 1, 1, 3);

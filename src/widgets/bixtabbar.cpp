@@ -9,12 +9,23 @@
 namespace {
 
 constexpr int iconHeight = 30;
+constexpr int dotSize = 8;
 
 /// The middle of a row. At a higher pixel density an icon would fill the whole height of it.
 QRect iconRow(const QRect &row)
 {
     const int spare = std::max(0, row.height() - iconHeight);
     return row.adjusted(0, spare / 2, 0, spare / 2 - spare);
+}
+
+void drawDot(QPainter *painter, const QRect &row)
+{
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(Qt::white);
+    QRect dot(0, 0, dotSize, dotSize);
+    dot.moveCenter(QPoint(row.right() - 2 * dotSize, row.center().y()));
+    painter->drawEllipse(dot);
 }
 
 } // namespace
@@ -44,5 +55,7 @@ void BixTabBar::paintEvent(QPaintEvent *)
         painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, text);
         place.setLeft(place.left() - (iconWidth + 10));
         icon.paint(&painter, iconRow(place), Qt::AlignLeft | Qt::AlignVCenter, QIcon::Active);
+        if (isTabEnabled(i) && tabData(i).toBool())
+            drawDot(&painter, place);
     }
 }

@@ -1,6 +1,7 @@
 #include "widgets/noticeline.h"
 
 #include <QAccessible>
+#include <QKeySequence>
 
 NoticeLine::NoticeLine(QWidget *parent)
     : QLabel(parent)
@@ -16,7 +17,10 @@ void NoticeLine::tell(const Sentence &sentence, const QStringList &items, const 
     sentence_ = sentence;
     items_ = items;
     link_ = link;
-    setToolTip(sentence_(items_.join(QStringLiteral(", "))));
+    const QString whole = sentence_(items_.join(QStringLiteral(", ")));
+    const QString keys = QKeySequence(QKeySequence::Undo).toString(QKeySequence::NativeText);
+    setToolTip(link.isEmpty() ? whole
+                              : tr("%1 %2 (%3)", "sentence, offer, keys").arg(whole, link, keys));
     showFitting();
     announce();
 }
@@ -66,7 +70,7 @@ void NoticeLine::showFitting()
     }
     const QString blank = QStringLiteral(" ");
     const int room =
-        width() - fontMetrics().horizontalAdvance(link_.isEmpty() ? link_ : blank + link_);
+        contentsRect().width() - fontMetrics().horizontalAdvance(link_.isEmpty() ? link_ : blank + link_);
     int count = items_.size();
     QString text = sentence_(listOf(count));
     while (count > 1 && fontMetrics().horizontalAdvance(text) > room)

@@ -20,10 +20,9 @@ public:
     /// Puts a list into words: "A6 switched off: LIST."
     using Sentence = std::function<QString(const QString &list)>;
     /// Tells of something, in plain text, with the text of a link behind it; linkActivated() says
-    /// that it was followed.
+    /// that it was followed. The tool tip names the keys of an undo for it, which are for the
+    /// window to connect.
     void tell(const Sentence &sentence, const QStringList &items, const QString &link = QString());
-    /// The whole of what tell() was given last, as its tool tip says it; empty after forget().
-    QString whole() const { return toolTip(); }
     void forget();
 
     /// Stands in front of what is told until endWork().

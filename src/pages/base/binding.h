@@ -49,6 +49,9 @@ public:
     /// Whether marks for the control's option go on the control itself.
     virtual bool marksItself() const { return false; }
 
+    /// Selects a value as the user would; nobody who listens can tell the difference.
+    virtual void choose(QWidget *, const OptionChoice &) const {}
+
     // Of what shows an option's name and marks.
 
     /// What the widget calls itself, as it shows it; empty if it has no name.

@@ -95,6 +95,11 @@ OptionChoice *CheckBinding::choice(const QWidget *, int value, const bOption *op
     return option->findChoice(Keys::yesOrNo(value != 0));
 }
 
+void CheckBinding::choose(QWidget *widget, const OptionChoice &choice) const
+{
+    static_cast<QAbstractButton *>(widget)->setChecked(choice.key() == Keys::yes);
+}
+
 bool CheckBinding::enable(Tab &page, QWidget *widget, bOption *option) const
 {
     return page.enableOptionsForCheckBox(static_cast<QCheckBox *>(widget), option);
@@ -154,6 +159,11 @@ OptionChoice *RadioBinding::choice(const QWidget *, int value, const bOption *op
     return option->findChoice(Keys::yesOrNo(value != 0));
 }
 
+void RadioBinding::choose(QWidget *widget, const OptionChoice &choice) const
+{
+    static_cast<QAbstractButton *>(widget)->setChecked(choice.key() == Keys::yes);
+}
+
 QString RadioBinding::label(const QWidget *widget) const
 {
     return withoutCaption(static_cast<const QRadioButton *>(widget)->text());
@@ -180,6 +190,11 @@ int CheckButtonBinding::value(const QWidget *widget) const
 OptionChoice *CheckButtonBinding::choice(const QWidget *widget, int, const bOption *option) const
 {
     return option->findChoice(Keys::yesOrNo(toButton(widget)->isChecked()));
+}
+
+void CheckButtonBinding::choose(QWidget *widget, const OptionChoice &choice) const
+{
+    toButton(widget)->setChecked(choice.key() == Keys::yes);
 }
 
 bool CheckButtonBinding::enable(Tab &page, QWidget *widget, bOption *option) const

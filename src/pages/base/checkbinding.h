@@ -14,6 +14,7 @@ public:
     void load(Tab &page, QWidget *widget, bOption *option) const override;
     int value(const QWidget *widget) const override;
     OptionChoice *choice(const QWidget *widget, int value, const bOption *option) const override;
+    void choose(QWidget *widget, const OptionChoice &choice) const override;
     bool enable(Tab &page, QWidget *widget, bOption *option) const override;
     QString savedValue(const QWidget *widget, const bOption *option) const override;
     bool marksItself() const override { return true; }
@@ -34,6 +35,7 @@ public:
     void connectTo(Tab &page, QWidget *widget) const override;
     int value(const QWidget *widget) const override;
     OptionChoice *choice(const QWidget *widget, int value, const bOption *option) const override;
+    void choose(QWidget *widget, const OptionChoice &choice) const override;
     QString label(const QWidget *widget) const override;
 };
 
@@ -46,6 +48,7 @@ public:
     void load(Tab &page, QWidget *widget, bOption *option) const override;
     int value(const QWidget *widget) const override;
     OptionChoice *choice(const QWidget *widget, int value, const bOption *option) const override;
+    void choose(QWidget *widget, const OptionChoice &choice) const override;
     bool enable(Tab &page, QWidget *widget, bOption *option) const override;
     QString savedValue(const QWidget *widget, const bOption *option) const override;
     bool marksItself() const override { return true; }

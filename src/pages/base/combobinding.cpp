@@ -67,6 +67,13 @@ QString ComboBinding::savedValue(const QWidget *widget, const bOption *option) c
     return Tab::keywordForText(option, toBox(widget)->currentText());
 }
 
+void ComboBinding::choose(QWidget *widget, const OptionChoice &choice) const
+{
+    const int index = itemIndex(toBox(widget), choice.text());
+    if (index >= 0)
+        toBox(widget)->setCurrentIndex(index);
+}
+
 void ComboBinding::fill(Tab &page, ComboBoxEx *box, bOption *option)
 {
     box->clear();

@@ -15,6 +15,7 @@ public:
     OptionChoice *choice(const QWidget *widget, int value, const bOption *option) const override;
     bool enable(Tab &page, QWidget *widget, bOption *option) const override;
     QString savedValue(const QWidget *widget, const bOption *option) const override;
+    void choose(QWidget *widget, const OptionChoice &choice) const override;
 
     // What Tab's own versions of its virtual operations do.
     static void fill(Tab &page, ComboBoxEx *box, bOption *option);

@@ -159,6 +159,13 @@ QString GroupBinding::savedValue(const QWidget *widget, const bOption *option) c
     return shown ? shown->key() : QString();
 }
 
+void GroupBinding::choose(QWidget *widget, const OptionChoice &choice) const
+{
+    BixButtonGroup *group = toGroup(widget);
+    if (QPushButton *button = group->buttonAt(positionOf(&choice, group, choice.option())))
+        button->click();
+}
+
 QString GroupBinding::label(const QWidget *widget) const
 {
     return toGroup(widget)->title();

@@ -18,6 +18,7 @@ public:
     OptionChoice *choice(const QWidget *widget, int value, const bOption *option) const override;
     bool enable(Tab &page, QWidget *widget, bOption *option) const override;
     QString savedValue(const QWidget *widget, const bOption *option) const override;
+    void choose(QWidget *widget, const OptionChoice &choice) const override;
     QString label(const QWidget *widget) const override;
     bool marksAnother() const override { return true; }
     void mark(QWidget *widget) const override;

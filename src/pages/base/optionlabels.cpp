@@ -37,8 +37,12 @@ QString OptionLabels::value(const OptionChoice &choice)
 
 QString OptionLabels::phrase(const OptionChoice &choice) const
 {
-    const QString name = label(*choice.option());
-    return isOn(choice) ? name : tr("%1: %2", "option and value").arg(name, value(choice));
+    return isOn(choice) ? label(*choice.option()) : fullPhrase(choice);
+}
+
+QString OptionLabels::fullPhrase(const OptionChoice &choice) const
+{
+    return tr("%1: %2", "option and value").arg(label(*choice.option()), value(choice));
 }
 
 QString OptionLabels::shortPhrase(const OptionChoice &choice) const
@@ -46,10 +50,17 @@ QString OptionLabels::shortPhrase(const OptionChoice &choice) const
     return isOn(choice) || isOff(choice) ? phrase(choice) : value(choice);
 }
 
-bool OptionLabels::isShown(const QString &keyword) const
+QStringList OptionLabels::inOrder(const QStringList &keywords) const
 {
-    return std::any_of(pages.cbegin(), pages.cend(),
-                       [&](const Tab *page) { return !page->label(keyword).isEmpty(); });
+    QStringList ordered;
+    for (const Tab *page : pages) {
+        const QStringList all = page->keywords();
+        for (const QString &keyword : all) {
+            if (keywords.contains(keyword) && !ordered.contains(keyword))
+                ordered.append(keyword);
+        }
+    }
+    return ordered;
 }
 
 QStringList OptionLabels::followersAmong(const QStringList &keywords) const

@@ -27,11 +27,13 @@ public:
     static QString value(const OptionChoice &choice);
     /// "Media type: Transparency"; the label alone for a switch that is on.
     QString phrase(const OptionChoice &choice) const;
+    /// "Media type: Transparency", "Staple: On".
+    QString fullPhrase(const OptionChoice &choice) const;
     /// "Transparency" where the value says enough; the phrase for a switch, on or off.
     QString shortPhrase(const OptionChoice &choice) const;
 
-    /// Whether any page shows the option.
-    bool isShown(const QString &keyword) const;
+    /// Those of the options that any page shows, in the order of the pages, each once.
+    QStringList inOrder(const QStringList &keywords) const;
     /// The options among these that follow a switch among them.
     QStringList followersAmong(const QStringList &keywords) const;
 

@@ -17,6 +17,10 @@ public:
     /// Set by Apply; while it is set OK closes the window afterwards.
     bool closeAfterApply = false;
 
+    /// Around what moves values by itself, also outside the dialog's own passes: the user is told.
+    virtual void beginMoves() {}
+    virtual void endMoves() {}
+
     /// Takes the installed options as the Printer page shows them for what the PPD says.
     virtual void recordInstalledValues() = 0;
     /// Tells the user that the settings are applied, unless the last publication failed.

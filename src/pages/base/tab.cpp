@@ -89,6 +89,31 @@ QString Tab::label(const QString &keyword) const
     return QString();
 }
 
+QStringList Tab::keywords() const
+{
+    QStringList list;
+    for (const WidgetMap *widgets : {&boundWidgets, &markWidgets}) {
+        for (const auto &[keyword, widget] : *widgets)
+            list.append(keyword);
+    }
+    return list;
+}
+
+QString Tab::keywordOf(const QObject *control) const
+{
+    return boundWidgets.key(control, markWidgets.key(control, QString()));
+}
+
+void Tab::choose(const OptionChoice &choice)
+{
+    QWidget *widget = boundWidgets.value(choice.option()->key());
+    for (BixCheckBoxButton *button : qAsConst(checkBoxButtons)) {
+        if (widget && button->dependents().contains(widget))
+            button->setChecked(button->offValue(widget) != choice.text());
+    }
+    Binding::of(widget).choose(widget, choice);
+}
+
 QStringList Tab::followersOf(const QString &keyword) const
 {
     const auto *button = qobject_cast<const BixCheckBoxButton *>(boundWidgets.value(keyword));
@@ -299,11 +324,13 @@ bool Tab::enableOptions()
     if (enabling)
         return false;
     const QScopedValueRollback<bool> once(enabling, true);
+    dialog->beginMoves();
     bool changed = false;
     for (const auto &[keyword, widget] : boundWidgets) {
         if (bOption *option = findOption(keyword))
             changed = Binding::of(widget).enable(*this, widget, option) || changed;
     }
+    dialog->endMoves();
     return changed;
 }
 

@@ -103,17 +103,22 @@ public slots:
 public:
     /// The title in the list of pages.
     QString tabName();
-    /// Says in tool tips and accessible descriptions why what is greyed is greyed. Runs for the page
-    /// that shows, once after each click, when all passes are through.
+    /// Says in tool tips and accessible descriptions why what is greyed is greyed. Runs for the
+    /// page that shows, once after each click, when all passes are through.
     virtual void explain(const OptionLabels &) {}
-    /// What the page calls the option of a keyword, without a colon; empty for one that it has no
-    /// control for.
+    /// What the page calls the option of a keyword, without a colon; empty if it has no name for
+    /// it.
     virtual QString label(const QString &keyword) const;
     /// The keywords that follow the switch of this keyword: those of its dependents. Whoever hears
     /// of the switch knows of them.
     virtual QStringList followersOf(const QString &keyword) const;
-    /// The control of a keyword, or null.
-    QWidget *control(const QString &keyword) const { return boundWidgets.value(keyword); }
+    /// The keywords of the page's controls and marks, in the order of registration.
+    QStringList keywords() const;
+    /// The keyword of a control; empty for what is none.
+    virtual QString keywordOf(const QObject *control) const;
+    /// Selects a value as the user would, through the control; a switch that it hangs under is
+    /// switched with it. Without effect for an option that the page has no control for.
+    virtual void choose(const OptionChoice &choice);
     /// False for the Printer page: installed options are the printer's and no user's.
     virtual bool hasUserSettings() const { return true; }
     /// Forgets marks of the pass before.

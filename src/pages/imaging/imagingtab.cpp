@@ -175,6 +175,23 @@ void ImagingTab::leanprintComboBoxChanged()
         applyLeanPrint();
 }
 
+QString ImagingTab::keywordOf(const QObject *control) const
+{
+    return control == leanprintBox ? LeanPrint::keyword : Tab::keywordOf(control);
+}
+
+void ImagingTab::choose(const OptionChoice &choice)
+{
+    if (choice.option()->key() != LeanPrint::keyword) {
+        Tab::choose(choice);
+        return;
+    }
+    leanprintGroup->buttonAt(LeanPrint::isOn(choice.key()) ? 1 : 0)->click();
+    const int level = leanprintBox->findText(choice.text());
+    if (level >= 0)
+        leanprintBox->setCurrentIndex(level);
+}
+
 bool ImagingTab::enableOptions()
 {
     bool changed = Tab::enableOptions();

@@ -25,6 +25,8 @@ public:
     Settings extraSettings() override { return {}; }
     void clearMarks() override;
     void retranslate() override;
+    QString keywordOf(const QObject *control) const override;
+    void choose(const OptionChoice &choice) override;
 
     /// The group that mirrors the one of the page "Basic".
     BixButtonGroup *colorGroup() const { return colorGroup_; }
