@@ -1,6 +1,7 @@
 #include "app/bixdialog.h"
 
 #include "app/changereport.h"
+#include "app/keyboardareas.h"
 #include "app/publication.h"
 #include "app/settingscollector.h"
 #include "desktop/desktopsettings.h"
@@ -17,6 +18,7 @@
 #include "widgets/bixtabwidget.h"
 
 #include <QDialogButtonBox>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScopedValueRollback>
@@ -35,6 +37,27 @@ void BixDialog::showEvent(QShowEvent *event)
     // A button box makes its OK the default as it is shown; here Return must not print settings
     // away from wherever the focus happens to be.
     buttonBox->button(QDialogButtonBox::Ok)->setDefault(false);
+}
+
+void BixDialog::keyPressEvent(QKeyEvent *event)
+{
+    const bool forward = !(event->modifiers() & Qt::ShiftModifier);
+    switch (event->key()) {
+    case Qt::Key_F6:
+        areas->goRound(forward);
+        return;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        areas->walk(event->key() == Qt::Key_Tab && forward);
+        return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // No button here is a default one, which Qt would press; elsewhere it does nothing.
+        KeyboardAreas::pressFocused();
+        return;
+    default:
+        PanelDialog::keyPressEvent(event);
+    }
 }
 
 bool BixDialog::focusNextPrevChild(bool)

@@ -12,6 +12,7 @@ class BixTabWidget;
 class ChangeReport;
 class GeneralTab;
 class ImagingTab;
+class KeyboardAreas;
 class NoticeLine;
 class OptionLabels;
 class PrinterTab;
@@ -63,6 +64,7 @@ public slots:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     /// Never moves the focus to another widget of this window, whatever asks for it.
     bool focusNextPrevChild(bool next) override;
 
@@ -110,6 +112,7 @@ private:
     GeneralTab *generalTab;
     ImagingTab *imagingTab;
     UserLoginTab *userLoginTab; ///< in no list: its settings reach no file, and it never shows
+    std::unique_ptr<KeyboardAreas> areas;
     std::unique_ptr<OptionLabels> labels;
     std::unique_ptr<ChangeReport> report;
     QTimer settling; ///< runs out when the click is over that led to a pass

@@ -1,6 +1,7 @@
 #include "app/aboutdialog.h"
 #include "app/bixdialog.h"
 #include "app/changereport.h"
+#include "app/keyboardareas.h"
 #include "app/publication.h"
 #include "app/settingscollector.h"
 #include "app/telemetrydialog.h"
@@ -20,6 +21,8 @@
 #include "storage/ownfile.h"
 #include "storage/settingsfile.h"
 #include "widgets/bixtabwidget.h"
+#include "widgets/focusring.h"
+#include "widgets/mnemonics.h"
 #include "widgets/noticeline.h"
 
 #include <QDialogButtonBox>
@@ -90,6 +93,15 @@ BixDialog::BixDialog(QWidget *parent)
     const auto restore = [this] { report->restore(); };
     connect(notice, &QLabel::linkActivated, this, restore);
     connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this, restore);
+    areas = std::make_unique<KeyboardAreas>(
+        tabWidget, notice,
+        QList<QPushButton *>{saveAsButton, profilesButton, buttonBox->button(QDialogButtonBox::Ok),
+                             buttonBox->button(QDialogButtonBox::Cancel),
+                             buttonBox->button(QDialogButtonBox::Apply), logoButton});
+    Mnemonics::give({buttonBox->button(QDialogButtonBox::Ok),
+                     buttonBox->button(QDialogButtonBox::Apply),
+                     buttonBox->button(QDialogButtonBox::Cancel), saveAsButton, profilesButton});
+    new FocusRing(this);
     createLayout();
     setWindowTitle(tr("Brixola Press Desk"));
     styleTabs();

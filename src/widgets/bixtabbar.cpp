@@ -1,6 +1,7 @@
 #include "widgets/bixtabbar.h"
 
 #include <QIcon>
+#include <QKeyEvent>
 #include <QStyleOptionTab>
 #include <QStylePainter>
 
@@ -33,6 +34,21 @@ void drawDot(QPainter *painter, const QRect &row)
 BixTabBar::BixTabBar(QWidget *parent)
     : QTabBar(parent)
 {
+}
+
+void BixTabBar::keyPressEvent(QKeyEvent *event)
+{
+    const int key = event->key();
+    if (key != Qt::Key_Up && key != Qt::Key_Down) {
+        QTabBar::keyPressEvent(event);
+        return;
+    }
+    const int step = key == Qt::Key_Down ? 1 : -1;
+    int to = currentIndex() + step;
+    while (to >= 0 && to < count() && !isTabEnabled(to))
+        to += step;
+    if (to >= 0 && to < count())
+        setCurrentIndex(to);
 }
 
 void BixTabBar::paintEvent(QPaintEvent *)

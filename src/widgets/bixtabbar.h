@@ -12,5 +12,7 @@ public:
     explicit BixTabBar(QWidget *parent = nullptr);
 
 protected:
+    /// The pages stand below each other: Up and Down go through them.
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 };

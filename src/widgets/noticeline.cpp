@@ -47,6 +47,12 @@ void NoticeLine::endWork()
     showFitting();
 }
 
+void NoticeLine::focusInEvent(QFocusEvent *event)
+{
+    QLabel::focusInEvent(event);
+    QLabel::focusNextPrevChild(true);
+}
+
 void NoticeLine::resizeEvent(QResizeEvent *event)
 {
     QLabel::resizeEvent(event);
@@ -69,8 +75,8 @@ void NoticeLine::showFitting()
         return;
     }
     const QString blank = QStringLiteral(" ");
-    const int room =
-        contentsRect().width() - fontMetrics().horizontalAdvance(link_.isEmpty() ? link_ : blank + link_);
+    const int room = contentsRect().width() -
+                     fontMetrics().horizontalAdvance(link_.isEmpty() ? link_ : blank + link_);
     int count = items_.size();
     QString text = sentence_(listOf(count));
     while (count > 1 && fontMetrics().horizontalAdvance(text) > room)

@@ -24,12 +24,15 @@ public:
     /// window to connect.
     void tell(const Sentence &sentence, const QStringList &items, const QString &link = QString());
     void forget();
+    bool hasLink() const { return !link_.isEmpty(); }
 
     /// Stands in front of what is told until endWork().
     void showWork(const QString &text);
     void endWork();
 
 protected:
+    /// The link takes the focus: there is nothing else.
+    void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -7,7 +7,6 @@
 #include "pages/base/checkbinding.h"
 #include "pages/base/combobinding.h"
 #include "pages/base/groupbinding.h"
-#include "pages/base/pagewidgets.h"
 #include "storage/settingsfile.h"
 #include "widgets/bixbuttongroup.h"
 #include "widgets/bixcheckboxbutton.h"
@@ -76,55 +75,6 @@ bool Tab::isAvailable()
 bOption *Tab::findOption(const QString &keyword)
 {
     return currentOption(keyword);
-}
-
-QString Tab::label(const QString &keyword) const
-{
-    for (const WidgetMap *widgets : {&markWidgets, &boundWidgets}) {
-        const QWidget *widget = widgets->value(keyword);
-        const QString text = PageWidgets::withoutColon(Binding::of(widget).label(widget));
-        if (!text.isEmpty())
-            return text;
-    }
-    return QString();
-}
-
-QStringList Tab::keywords() const
-{
-    QStringList list;
-    for (const WidgetMap *widgets : {&boundWidgets, &markWidgets}) {
-        for (const auto &[keyword, widget] : *widgets)
-            list.append(keyword);
-    }
-    return list;
-}
-
-QString Tab::keywordOf(const QObject *control) const
-{
-    return boundWidgets.key(control, markWidgets.key(control, QString()));
-}
-
-void Tab::choose(const OptionChoice &choice)
-{
-    QWidget *widget = boundWidgets.value(choice.option()->key());
-    for (BixCheckBoxButton *button : qAsConst(checkBoxButtons)) {
-        if (widget && button->dependents().contains(widget))
-            button->setChecked(button->offValue(widget) != choice.text());
-    }
-    Binding::of(widget).choose(widget, choice);
-}
-
-QStringList Tab::followersOf(const QString &keyword) const
-{
-    const auto *button = qobject_cast<const BixCheckBoxButton *>(boundWidgets.value(keyword));
-    QStringList followers;
-    const QList<QWidget *> dependents = button ? button->dependents() : QList<QWidget *>();
-    for (const QWidget *dependent : dependents) {
-        const QString follower = boundWidgets.key(dependent, QString());
-        if (!follower.isEmpty())
-            followers.append(follower);
-    }
-    return followers;
 }
 
 // Loading

@@ -106,6 +106,8 @@ public:
     /// Says in tool tips and accessible descriptions why what is greyed is greyed. Runs for the
     /// page that shows, once after each click, when all passes are through.
     virtual void explain(const OptionLabels &) {}
+    /// Gives the focus to the control of the page that had it last, or to the first one.
+    void takeFocus();
     /// What the page calls the option of a keyword, without a colon; empty if it has no name for
     /// it.
     virtual QString label(const QString &keyword) const;
@@ -141,6 +143,11 @@ public:
     static QString keywordForText(const bOption *option, const QString &text);
 
 protected:
+    /// The controls that the Tab key visits now, in their order: down the columns.
+    virtual QList<QWidget *> focusOrder() const;
+    /// Walks within the page and never leaves it.
+    bool focusNextPrevChild(bool next) override;
+
     /// The option of a keyword for the selected printer, or null.
     static bOption *findOption(const QString &keyword);
 
