@@ -79,6 +79,9 @@ private:
     void createTabs();
     void createLayout();
     void styleTabs();
+    /// Where the screen is too low for the window, lets the pages scroll, so that the buttons below
+    /// them stay in sight.
+    void fitToScreen();
     void enableTabs();
     void setButtonsEnabled(bool on);
     void setProfileButtonsEnabled(bool on);

@@ -25,13 +25,15 @@
 #include "widgets/mnemonics.h"
 #include "widgets/noticeline.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTabBar>
 #include <QTableWidget>
@@ -105,6 +107,7 @@ BixDialog::BixDialog(QWidget *parent)
     createLayout();
     setWindowTitle(tr("Brixola Press Desk"));
     styleTabs();
+    fitToScreen();
     buttonBox->button(QDialogButtonBox::Ok)->clearFocus();
     // The focus has to be somewhere when the window is activated, and not in the printer table,
     // where a stray key would select a printer.
@@ -146,7 +149,7 @@ void BixDialog::askAboutCollection()
         return;
     TelemetryDialog question(this);
     // This window, which it would be put on, doesn't show yet.
-    question.move(QGuiApplication::primaryScreen()->availableGeometry().center() -
+    question.move(QApplication::primaryScreen()->availableGeometry().center() -
                   question.rect().center());
     question.exec();
 }
@@ -260,6 +263,30 @@ void BixDialog::createLayout()
     grid->addItem(new QSpacerItem(50, 23), 4, 1, 1, 3);
     grid->addWidget(logoButton, 4, 1, 1, 3, Qt::AlignBottom);
     grid->addWidget(buttonBox, 4, 4, 1, 5, Qt::AlignBottom | Qt::AlignRight);
+}
+
+void BixDialog::fitToScreen()
+{
+    const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const int room = QApplication::primaryScreen()->availableGeometry().height() - frame;
+    if (room >= height())
+        return;
+    layout()->activate();
+    const int pageHeight = tabWidget->height();
+    auto *area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidgetResizable(true);
+    delete layout()->replaceWidget(tabWidget, area);
+    area->setWidget(tabWidget);
+    area->viewport()->setAutoFillBackground(false);
+    tabWidget->setMinimumHeight(pageHeight);
+    setFixedSize(width() + area->verticalScrollBar()->sizeHint().width(), room);
+    setBackground();
+    connect(qApp, &QApplication::focusChanged, area, [area](QWidget *, QWidget *now) {
+        if (now && area->isAncestorOf(now) && now != area->widget())
+            area->ensureWidgetVisible(now);
+    });
 }
 
 void BixDialog::styleTabs()

@@ -31,9 +31,9 @@ QList<QWidget *> KeyboardAreas::stops() const
 KeyboardAreas::Area KeyboardAreas::current() const
 {
     QWidget *focused = QApplication::focusWidget();
-    if (focused == tabs->tabBar())
+    if (!focused || focused == tabs->tabBar())
         return List;
-    return focused && tabs->isAncestorOf(focused) ? Page : Rows;
+    return tabs->isAncestorOf(focused) ? Page : Rows;
 }
 
 void KeyboardAreas::goRound(bool next) const

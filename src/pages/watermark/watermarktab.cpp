@@ -19,6 +19,7 @@
 #include <QSet>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <iterator>
 
 using PageWidgets::named;
@@ -199,13 +200,35 @@ void WatermarkTab::handleCustomWatermarkTextEdit()
     saveButton->setEnabled(watermarkButton->isChecked());
     deleteButton->setEnabled(customWatermarks.contains(name));
 
+    PageLayout::setTabOrder(customOrder());
+}
+
+QList<QWidget *> WatermarkTab::customOrder() const
+{
     QList<QWidget *> order = {customEdit};
     for (QPushButton *button : {newButton, deleteButton, saveButton}) {
         if (button->isEnabled())
             order.append(button);
     }
     order.append(repeatBox);
-    PageLayout::setTabOrder(order);
+    return order;
+}
+
+QList<QWidget *> WatermarkTab::focusOrder() const
+{
+    // What belongs to the user's own texts stays together.
+    const QList<QWidget *> all = Tab::focusOrder();
+    const QList<QWidget *> together = customOrder();
+    QList<QWidget *> order;
+    for (QWidget *widget : all) {
+        if (widget == customEdit) {
+            std::copy_if(together.cbegin(), together.cend(), std::back_inserter(order),
+                         [&](QWidget *one) { return all.contains(one); });
+        } else if (!together.contains(widget) || !all.contains(customEdit)) {
+            order.append(widget);
+        }
+    }
+    return order;
 }
 
 void WatermarkTab::createNewCustomWatermark()

@@ -43,7 +43,12 @@ private slots:
     void toggleWatermarkSection(bool on);
     void toggleSuperWatermark(bool on);
 
+protected:
+    QList<QWidget *> focusOrder() const override;
+
 private:
+    /// What takes the focus one after the other for the user's own texts.
+    QList<QWidget *> customOrder() const;
     void registerWidgets();
     void createConnections();
     void createLayout();

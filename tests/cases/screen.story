@@ -1,0 +1,25 @@
+# A screen that is too low for the window: the pages scroll, the buttons below them stay in sight.
+queue Office px4500.ppd Option17=Finisher2 Option19=True
+command low-screen
+  mkfifo number; Xvfb -displayfd 5 -screen 0 1366x440x24 -nolisten tcp 5>number 2>/dev/null &
+  read -r number <number; DISPLAY=:$number "$@"; status=$?; kill $!; exit $status
+env LAUNCHER=/tmp/play/bin/low-screen
+
+== what is far down comes into sight with the focus
+start
+ask BixDialog height
+> 415
+select Office
+tab Watermark
+check chkButWatermark
+> butSaveCustomWatermark: button; chkBxWFlg: off; cmbBxClr: Black; cmbBxWFnt: Helvetica; cmbBxWang: 50
+> cmbBxWsze: 72; cmbBxWtrans: Transparent; cmbBxWtxt: CONFIDENTIAL; cmbBxWtyp: Solid
+> lblCustomWatermark: "Custom watermark:"; lblWClr: "Color:"; lblWFnt: "Font:"; lblWSze: "Size:"
+> lblWang: "Angle:"; lblWtrans: "Style:"; lblWtxt: "Text:"; lblWtyp: "Fill:"; lnEditCustomWatermark: ""
+ask BixTabWidget y
+> -58
+press F6 F6 F6 Shift+Tab Shift+Tab Shift+Tab
+ask @focus accessibleName
+> butSaveCustomWatermark
+ask BixTabWidget y
+> -23
