@@ -43,6 +43,7 @@ void BixButtonGroup::addButton(const QString &name, const QString &iconPath,
 {
     auto *button = new QPushButton(this);
     button->setAccessibleName(name);
+    button->setToolTip(name);
     button->setIcon(QIcon(iconPath));
     button->setIconSize(QSize(50, 50));
     button->setCheckable(true);

@@ -6,18 +6,22 @@
 #include <QGridLayout>
 #include <QPushButton>
 
+#include <algorithm>
+
 BixCheckBoxButton::BixCheckBoxButton(QWidget *parent, const QString &text, const QIcon &icon)
     : QFrame(parent)
     , button(new QPushButton(this))
     , checkBox(new QCheckBox(text, this))
     , layout_(new QGridLayout(this))
 {
+    button->setToolTip(text);
     button->setIcon(icon);
     button->setIconSize(QSize(50, 50));
     button->setAutoDefault(false); // Return elsewhere in the window is no click here
     // Room below the picture, which shares its cell with the check box and its text.
-    button->setStyleSheet(QStringLiteral("border: none; outline: none; padding-bottom: 18px;"));
-    checkBox->setStyleSheet(QStringLiteral("margin: 0px"));
+    button->setStyleSheet(
+        QStringLiteral("QPushButton { border: none; outline: none; padding-bottom: 18px; }"));
+    checkBox->setStyleSheet(QStringLiteral("QCheckBox { margin: 0px }"));
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->addWidget(button, 0, 0, 0, 0, Qt::AlignBottom);
     layout_->addWidget(checkBox, 0, 0, 0, 0, Qt::AlignBottom | Qt::AlignLeft);
@@ -43,6 +47,17 @@ QString BixCheckBoxButton::label() const
     return name.isEmpty() ? checkBox->text() : name;
 }
 
+void BixCheckBoxButton::setLabel(const QString &name)
+{
+    checkBox->setAccessibleName(name);
+    button->setAccessibleName(name);
+}
+
+void BixCheckBoxButton::setPictureToolTip(const QString &text)
+{
+    button->setToolTip(text);
+}
+
 bool BixCheckBoxButton::isChecked() const
 {
     return checkBox->isChecked();
@@ -57,6 +72,11 @@ void BixCheckBoxButton::addDependent(QWidget *widget, const QString &value)
 {
     dependents_.append(widget);
     offValues.append(value);
+}
+
+bool BixCheckBoxButton::isDependent(const QWidget *widget) const
+{
+    return std::find(dependents_.cbegin(), dependents_.cend(), widget) != dependents_.cend();
 }
 
 QString BixCheckBoxButton::offValue(QWidget *widget) const

@@ -22,10 +22,15 @@ public:
 
     /// What the check box is called: its text, or the longer name that screen readers get.
     QString label() const;
+    /// What screen readers call both parts.
+    void setLabel(const QString &name);
+    /// What the picture is called for those who point at it.
+    void setPictureToolTip(const QString &text);
     bool isChecked() const;
     void setChecked(bool on);
 
     QList<QWidget *> dependents() const { return dependents_; }
+    bool isDependent(const QWidget *widget) const;
     /// `value` is the text of a choice, or "no_default" for a widget that has no off state.
     void addDependent(QWidget *widget, const QString &value);
     /// Empty for a widget that is no dependent.

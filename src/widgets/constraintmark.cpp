@@ -54,9 +54,10 @@ void removeImage(QLabel *label)
 void explain(QLabel *label, const QString &toolTip)
 {
     label->setToolTip(toolTip);
-    if (!toolTip.isEmpty())
-        label->setStyleSheet(QStringLiteral("QToolTip { color: #ffffff; background-color: #2a82da; "
-                                            "border: 1px solid white; }"));
+    const QLatin1String colors("QToolTip { color: #ffffff; background-color: #2a82da; "
+                               "border: 1px solid white; }");
+    if (!toolTip.isEmpty() && !label->styleSheet().contains(colors))
+        label->setStyleSheet(label->styleSheet() + colors);
 }
 
 } // namespace ConstraintMark

@@ -25,7 +25,8 @@ void append(QLabel *label);
 void remove(QLabel *label);
 /// Takes the image out and leaves the blank.
 void removeImage(QLabel *label);
-/// A tool tip that explains the mark, in the panel's colours; an empty text takes it away.
+/// A tool tip that explains the mark, in the panel's colours; an empty text takes it away. The
+/// style sheet of the label, if it has one, must name its selectors.
 void explain(QLabel *label, const QString &toolTip);
 
 } // namespace ConstraintMark

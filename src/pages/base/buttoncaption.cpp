@@ -1,5 +1,6 @@
 #include "pages/base/buttoncaption.h"
 
+#include "pages/base/pagewidgets.h"
 #include "widgets/bixcheckboxbutton.h"
 
 #include <QCheckBox>
@@ -38,9 +39,10 @@ void ButtonCaption::set(BixCheckBoxButton *button, const QString &caption, const
     if (!box || !picture)
         return;
     box->setText(inTwoLines(caption));
-    for (QWidget *part : {static_cast<QWidget *>(box), static_cast<QWidget *>(picture)})
-        part->setAccessibleName(name.isEmpty() ? caption : name);
+    button->setLabel(name.isEmpty() ? caption : name);
+    button->setPictureToolTip(PageWidgets::withoutColon(button->label()));
     // The two share a cell.
-    picture->setStyleSheet(QStringLiteral("border: none; outline: none; padding-bottom: %1px;")
-                               .arg(box->sizeHint().height()));
+    picture->setStyleSheet(
+        QStringLiteral("QPushButton { border: none; outline: none; padding-bottom: %1px; }")
+            .arg(box->sizeHint().height()));
 }

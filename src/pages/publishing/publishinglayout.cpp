@@ -45,10 +45,12 @@ QGridLayout *PublishingTab::createCoverGrid()
         media[Cover].box,
     };
     for (const Print print : coverPrints)
-        prints[print]->setStyleSheet(QStringLiteral("margin-bottom: 0px; margin-left: 40px"));
-    media[Cover].box->setStyleSheet(QStringLiteral("margin-bottom: 15px"));
+        prints[print]->setStyleSheet(
+            QStringLiteral("QCheckBox { margin-bottom: 0px; margin-left: 40px }"));
+    media[Cover].box->setStyleSheet(QStringLiteral("ComboBoxEx { margin-bottom: 15px }"));
     headings[Interleaving]->setIndent(0); // a margin would add one
-    headings[Interleaving]->setStyleSheet(QStringLiteral("margin-top: 15px; margin-bottom: 0px"));
+    headings[Interleaving]->setStyleSheet(
+        QStringLiteral(".QLabel { margin-top: 15px; margin-bottom: 0px }"));
 
     auto *grid = new QGridLayout;
     grid->addWidget(headings[Cover], 0, 0, 1, 2);
