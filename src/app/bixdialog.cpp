@@ -76,6 +76,7 @@ void BixDialog::setProfileButtonsEnabled(bool on)
 {
     saveAsButton->setEnabled(on);
     profilesButton->setEnabled(on);
+    explainButtons();
 }
 
 void BixDialog::enableTabs()
@@ -215,6 +216,7 @@ void BixDialog::settle()
     report->settle();
     if (auto *page = qobject_cast<Tab *>(tabWidget->currentWidget()))
         page->explain(*labels);
+    explainButtons();
 }
 
 bool BixDialog::runPass()

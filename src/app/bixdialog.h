@@ -85,6 +85,8 @@ private:
     void enableTabs();
     void setButtonsEnabled(bool on);
     void setProfileButtonsEnabled(bool on);
+    /// Says on the buttons below the pages what holds them back.
+    void explainButtons();
     void changeInstalledOptions();
     void showFailedPublication();
     /// Fills the table of printers anew if they are others now, and unselects one that is gone.

@@ -222,6 +222,7 @@ void BixDialog::createButtons()
         button->setEnabled(button == logoButton);
     }
     setButtonsEnabled(false);
+    explainButtons();
 }
 
 void BixDialog::createProfileDialogs()

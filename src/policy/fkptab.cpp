@@ -129,6 +129,7 @@ void FKPTab::toggleNotifications()
     cancelRadio->setEnabled(choice);
     if (!choice)
         continueRadio->setChecked(true);
+    explainFields();
 }
 
 // Logging in
@@ -239,13 +240,18 @@ void FKPTab::recordVerified(const Login &login)
     verified = login;
 }
 
+QString FKPTab::incompleteText()
+{
+    return tr("Server, Port, and Login user information must be filled out.");
+}
+
 /// What holds the settings back; empty if nothing does.
 QString FKPTab::fault() const
 {
     if (!isOn())
         return QString();
     if (fields().isIncomplete())
-        return tr("Server, Port, and Login user information must be filled out.");
+        return incompleteText();
     if (credentialsChanged)
         return tr("You must click Verify after making changes.");
     if (!serverReached)

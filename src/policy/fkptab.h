@@ -33,6 +33,7 @@ public:
     QHash<QString, QString> collectSettings() override;
     bool hasMarks() override { return marked; }
     void markConstraintWidgets() override;
+    void explain(const OptionLabels &labels) override;
 
     virtual void connectSignals();
 
@@ -72,8 +73,10 @@ private:
     void createLayout();
     bool isOn() const;
     void enableFields();
+    void explainFields();
     void switchOptions();
     Login fields() const;
+    static QString incompleteText();
     QString fault() const;
     void loadPolicySettings();
     void silentVerify();

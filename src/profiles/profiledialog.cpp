@@ -2,6 +2,7 @@
 
 #include "pages/base/pagewidgets.h"
 #include "pages/base/paneldialog.h"
+#include "pages/base/reasontip.h"
 #include "profiles/profileeditdialog.h"
 #include "profiles/profilereader.h"
 #include "profiles/profilesavedialog.h"
@@ -146,6 +147,7 @@ void ProfileDialog::show()
 void ProfileDialog::enableSaving()
 {
     saveButton->setEnabled(constraintsClear);
+    ReasonTip::setIfGrey(saveButton, tr("Resolve the marked conflicts first."));
 }
 
 // The list
@@ -209,8 +211,10 @@ void ProfileDialog::loadDetailsFromCell(int row_end, int, int, int)
 void ProfileDialog::showDetails(int row)
 {
     const bool isProfile = !profileName(row).isEmpty();
-    editButton->setEnabled(isProfile);
-    deleteButton->setEnabled(isProfile);
+    for (QPushButton *button : {editButton, deleteButton}) {
+        button->setEnabled(isProfile);
+        ReasonTip::setIfGrey(button, tr("Select a profile of your own first."));
+    }
     detailTree->clear();
     if (profileTable->item(row, 0))
         fillDetailTree(row);

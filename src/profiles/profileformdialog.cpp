@@ -1,6 +1,7 @@
 #include "profiles/profileformdialog.h"
 
 #include "pages/base/onelinevalidator.h"
+#include "pages/base/reasontip.h"
 #include "profiles/profilerules.h"
 #include "profiles/profilestore.h"
 
@@ -80,6 +81,25 @@ void ProfileFormDialog::refreshQueueNames()
 
 void ProfileFormDialog::checkFields()
 {
-    buttonBox->button(QDialogButtonBox::Ok)
-        ->setEnabled(isValidProfile(name(), descriptionEdit->toPlainText(), queueNames));
+    const ProfileFault fault = profileFault(name(), descriptionEdit->toPlainText(), queueNames);
+    QPushButton *ok = buttonBox->button(QDialogButtonBox::Ok);
+    ok->setEnabled(fault == ProfileFault::None);
+    ReasonTip::setIfGrey(ok, faultText(fault));
+}
+
+QString ProfileFormDialog::faultText(ProfileFault fault)
+{
+    switch (fault) {
+    case ProfileFault::NoName:
+        return tr("Enter a name first.");
+    case ProfileFault::Reserved:
+        return tr("This name is reserved.");
+    case ProfileFault::Characters:
+        return tr("A name can't begin with a dot, nor contain / \" ` or ;");
+    case ProfileFault::TooLong:
+        return tr("The name or the description is too long.");
+    case ProfileFault::None:
+        break;
+    }
+    return QString();
 }

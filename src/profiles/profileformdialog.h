@@ -6,9 +6,10 @@
 class QDialogButtonBox;
 class QLineEdit;
 class QTextEdit;
+enum class ProfileFault;
 
 /// What the dialogs for a new and for a changed profile have in common: the fields for name and
-/// description, and an OK button that is enabled only while both are valid (see isValidProfile()).
+/// description, and an OK button that is enabled only while both are valid (see profileFault()).
 ///
 /// A dialog fills the fields and refreshes the queues each time before it shows.
 class ProfileFormDialog : public QDialog
@@ -35,6 +36,7 @@ protected:
 
 private:
     void createLayout(const QString &descriptionLabel);
+    static QString faultText(ProfileFault fault);
 
     QStringList queueNames;
 };

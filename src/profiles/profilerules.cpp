@@ -29,15 +29,21 @@ bool isReservedProfileName(const QString &name)
         });
 }
 
-bool isValidProfile(const QString &name, const QString &description, const QStringList &queues)
+ProfileFault profileFault(const QString &name, const QString &description,
+                          const QStringList &queues)
 {
     const auto forbidden = [](QChar character) {
         return QLatin1String(forbiddenCharacters).contains(character);
     };
-    return !name.isEmpty() && !isReservedProfileName(name) &&
-           !queues.contains(name, Qt::CaseInsensitive) && !name.startsWith(QLatin1Char('.')) &&
-           std::none_of(name.begin(), name.end(), forbidden) &&
-           description.size() <= longestDescription && name.toUtf8().size() <= longestName;
+    if (name.isEmpty())
+        return ProfileFault::NoName;
+    if (isReservedProfileName(name) || queues.contains(name, Qt::CaseInsensitive))
+        return ProfileFault::Reserved;
+    if (name.startsWith(QLatin1Char('.')) || std::any_of(name.begin(), name.end(), forbidden))
+        return ProfileFault::Characters;
+    if (description.size() > longestDescription || name.toUtf8().size() > longestName)
+        return ProfileFault::TooLong;
+    return ProfileFault::None;
 }
 
 QString storedDescription(QString description)

@@ -11,11 +11,20 @@
 /// its blanks.
 bool isReservedProfileName(const QString &name);
 
-/// True if a profile can be saved under the name with the description: the name is neither empty
-/// nor reserved nor, in any case, one of the print queues; it does not begin with "." and has no
-/// character that would leave the directory or its quotes; the name is at most 251 bytes long in
-/// UTF-8, the description at most 1024 characters.
-bool isValidProfile(const QString &name, const QString &description, const QStringList &queues);
+/// Why a profile can't be saved.
+enum class ProfileFault
+{
+    None,
+    NoName,
+    Reserved,   ///< the name, or it is, in any case, one of the print queues
+    Characters, ///< begins with ".", or has a character that would leave the directory or its
+                ///< quotes
+    TooLong,    ///< more than 251 bytes of UTF-8 in the name, or 1024 characters in the description
+};
+
+/// What is wrong with a profile of this name with the description; the first of all faults.
+ProfileFault profileFault(const QString &name, const QString &description,
+                          const QStringList &queues);
 
 /// A description as a file holds it: line feeds are written as a backslash and "n".
 QString storedDescription(QString description);

@@ -4,6 +4,7 @@
 #include "pages/base/combobinding.h"
 #include "pages/base/groupbinding.h"
 #include "pages/base/labelbinding.h"
+#include "pages/base/reasontip.h"
 #include "pages/base/sliderbinding.h"
 
 #include <QVariant>
@@ -26,6 +27,11 @@ const Binding &Binding::of(const QObject *widget)
             return *each;
     }
     return none;
+}
+
+void Binding::explain(QWidget *widget, const bOption *, const Reasons &, const QString &grey) const
+{
+    ReasonTip::setIfGrey(widget, grey);
 }
 
 QString Binding::ownText(QWidget *widget, const QString &text)

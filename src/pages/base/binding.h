@@ -5,6 +5,7 @@
 class OptionChoice;
 class QObject;
 class QWidget;
+class Reasons;
 class Tab;
 class bOption;
 
@@ -44,6 +45,11 @@ public:
     }
     /// Greys what is blocked and moves off it; true if a value had to be moved.
     virtual bool enable(Tab &, QWidget *, bOption *) const { return false; }
+    /// Says why the control is greyed and which of its values are, and takes back what is so no
+    /// longer. `option` is null for what the printer lacks; `grey` is the reason that the page
+    /// knows for the control as a whole, empty for none.
+    virtual void explain(QWidget *widget, const bOption *option, const Reasons &reasons,
+                         const QString &grey) const;
     /// What the settings file keeps; empty for nothing.
     virtual QString savedValue(const QWidget *, const bOption *) const { return {}; }
     /// Whether marks for the control's option go on the control itself.

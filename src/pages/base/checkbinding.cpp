@@ -3,6 +3,8 @@
 #include "model/boption.h"
 #include "model/keys.h"
 #include "model/optionchoice.h"
+#include "pages/base/reasons.h"
+#include "pages/base/reasontip.h"
 #include "pages/base/tab.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/constraintmark.h"
@@ -71,6 +73,15 @@ bool forceState(Tab &page, Checkable *box, bool offBlocked, bool onBlocked)
     return moved;
 }
 
+void explainState(QWidget *box, const OptionChoice *off, const OptionChoice *on,
+                  const Reasons &reasons, const QString &grey)
+{
+    if (box->isEnabled())
+        ReasonTip::set(box, QString());
+    else
+        ReasonTip::set(box, grey.isEmpty() ? reasons.ofSwitch(off, on) : grey);
+}
+
 } // namespace
 
 // A check box
@@ -109,6 +120,13 @@ bool CheckBinding::enableBox(Tab &page, QCheckBox *box, const bOption *option)
 {
     const QList<OptionChoice *> choices = option->choiceList();
     return forceState(page, box, isBlocked(choices.value(0)), isBlocked(choices.value(1)));
+}
+
+void CheckBinding::explain(QWidget *widget, const bOption *option, const Reasons &reasons,
+                           const QString &grey) const
+{
+    const QList<OptionChoice *> choices = option ? option->choiceList() : QList<OptionChoice *>();
+    explainState(widget, choices.value(0), choices.value(1), reasons, grey);
 }
 
 QString CheckBinding::savedValue(const QWidget *widget, const bOption *) const
@@ -206,6 +224,15 @@ bool CheckButtonBinding::enableButton(Tab &page, BixCheckBoxButton *button, cons
 {
     return forceState(page, button, isBlocked(option->findChoice(Keys::no)),
                       isBlocked(option->findChoice(Keys::yes)));
+}
+
+void CheckButtonBinding::explain(QWidget *widget, const bOption *option, const Reasons &reasons,
+                                 const QString &grey) const
+{
+    const OptionChoice *off = option ? option->findChoice(Keys::no) : nullptr;
+    const OptionChoice *on = option ? option->findChoice(Keys::yes) : nullptr;
+    explainState(widget, off, on, reasons, grey);
+    ReasonTip::setIfGreyBelow(widget, ReasonTip::of(widget));
 }
 
 QString CheckButtonBinding::savedValue(const QWidget *widget, const bOption *) const

@@ -16,6 +16,8 @@ public:
     OptionChoice *choice(const QWidget *widget, int value, const bOption *option) const override;
     void choose(QWidget *widget, const OptionChoice &choice) const override;
     bool enable(Tab &page, QWidget *widget, bOption *option) const override;
+    void explain(QWidget *widget, const bOption *option, const Reasons &reasons,
+                 const QString &grey) const override;
     QString savedValue(const QWidget *widget, const bOption *option) const override;
     bool marksItself() const override { return true; }
     QString label(const QWidget *widget) const override;
@@ -50,6 +52,8 @@ public:
     OptionChoice *choice(const QWidget *widget, int value, const bOption *option) const override;
     void choose(QWidget *widget, const OptionChoice &choice) const override;
     bool enable(Tab &page, QWidget *widget, bOption *option) const override;
+    void explain(QWidget *widget, const bOption *option, const Reasons &reasons,
+                 const QString &grey) const override;
     QString savedValue(const QWidget *widget, const bOption *option) const override;
     bool marksItself() const override { return true; }
     QString label(const QWidget *widget) const override;

@@ -2,6 +2,8 @@
 
 #include "model/boption.h"
 #include "model/optionchoice.h"
+#include "pages/base/reasons.h"
+#include "pages/base/reasontip.h"
 #include "pages/base/tab.h"
 #include "widgets/comboboxex.h"
 
@@ -60,6 +62,19 @@ OptionChoice *ComboBinding::choice(const QWidget *widget, int, const bOption *op
 bool ComboBinding::enable(Tab &page, QWidget *widget, bOption *option) const
 {
     return page.enableOptionsForComboBox(toBox(widget), option);
+}
+
+void ComboBinding::explain(QWidget *widget, const bOption *option, const Reasons &reasons,
+                           const QString &grey) const
+{
+    ComboBoxEx *box = toBox(widget);
+    ReasonTip::setIfGrey(box, grey.isEmpty() ? Reasons::offersNothingElse() : grey);
+    for (int i = 0; i < box->count(); ++i) {
+        const bool usable = box->model()->flags(box->model()->index(i, 0)) & Qt::ItemIsEnabled;
+        const OptionChoice *choice =
+            usable || !option ? nullptr : option->findChoiceByText(box->itemText(i));
+        ReasonTip::setItem(box, i, choice ? reasons.blocked(*choice) : QString());
+    }
 }
 
 QString ComboBinding::savedValue(const QWidget *widget, const bOption *option) const

@@ -14,6 +14,8 @@ public:
     int value(const QWidget *widget) const override;
     OptionChoice *choice(const QWidget *widget, int value, const bOption *option) const override;
     bool enable(Tab &page, QWidget *widget, bOption *option) const override;
+    void explain(QWidget *widget, const bOption *option, const Reasons &reasons,
+                 const QString &grey) const override;
     QString savedValue(const QWidget *widget, const bOption *option) const override;
     void choose(QWidget *widget, const OptionChoice &choice) const override;
 

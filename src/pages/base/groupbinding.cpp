@@ -2,6 +2,8 @@
 
 #include "model/boption.h"
 #include "model/optionchoice.h"
+#include "pages/base/reasons.h"
+#include "pages/base/reasontip.h"
 #include "pages/base/tab.h"
 #include "widgets/bixbuttongroup.h"
 
@@ -151,6 +153,24 @@ bool GroupBinding::enableButtons(BixButtonGroup *group, bOption *option)
         group->setButton(0);
     }
     return mustMove;
+}
+
+void GroupBinding::explain(QWidget *widget, const bOption *option, const Reasons &reasons,
+                           const QString &grey) const
+{
+    BixButtonGroup *group = toGroup(widget);
+    QString whole = grey;
+    if (!group->isEnabled() && option && grey.isEmpty())
+        whole = reasons.nothingLeft(*option, group->currentText());
+    ReasonTip::setIfGrey(group, whole);
+    for (int i = 0; i < group->buttonCount(); ++i) {
+        const OptionChoice *choice =
+            option && grey.isEmpty() ? choiceAt(group, i, option) : nullptr;
+        QString reason = group->isEnabled() ? Reasons::notOffered() : whole;
+        if (choice && choice->isBlocked())
+            reason = reasons.blocked(*choice);
+        ReasonTip::setIfGrey(group->buttonAt(i), reason);
+    }
 }
 
 QString GroupBinding::savedValue(const QWidget *widget, const bOption *option) const

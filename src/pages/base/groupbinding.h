@@ -17,6 +17,8 @@ public:
     void load(Tab &page, QWidget *widget, bOption *option) const override;
     OptionChoice *choice(const QWidget *widget, int value, const bOption *option) const override;
     bool enable(Tab &page, QWidget *widget, bOption *option) const override;
+    void explain(QWidget *widget, const bOption *option, const Reasons &reasons,
+                 const QString &grey) const override;
     QString savedValue(const QWidget *widget, const bOption *option) const override;
     void choose(QWidget *widget, const OptionChoice &choice) const override;
     QString label(const QWidget *widget) const override;

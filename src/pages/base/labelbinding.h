@@ -9,6 +9,8 @@ public:
     const char *className() const override { return "QLabel"; }
     void showOption(QWidget *widget, const bOption *option) const override;
     QString label(const QWidget *widget) const override;
+    /// Tool tips of labels belong to marks.
+    void explain(QWidget *, const bOption *, const Reasons &, const QString &) const override {}
     bool marksAnother() const override { return true; }
     void mark(QWidget *widget) const override;
     void clearMark(QWidget *widget) const override;

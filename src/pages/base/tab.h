@@ -18,6 +18,7 @@ class OptionChoice;
 class OptionLabels;
 class QCheckBox;
 class QSlider;
+class Reasons;
 class bOption;
 
 /// Base of the option pages: binds widgets to option keywords.
@@ -105,7 +106,7 @@ public:
     QString tabName();
     /// Says in tool tips and accessible descriptions why what is greyed is greyed. Runs for the
     /// page that shows, once after each click, when all passes are through.
-    virtual void explain(const OptionLabels &) {}
+    virtual void explain(const OptionLabels &labels);
     /// Gives the focus to the control of the page that had it last, or to the first one.
     void takeFocus();
     /// What the page calls the option of a keyword, without a colon; empty if it has no name for
@@ -162,6 +163,14 @@ protected:
     QString widgetValue(QWidget *widget, bOption *option) const;
     /// Fills `savedSettings` with what the bound widgets hold.
     void collectBoundWidgets();
+
+    /// Says on a control, bound or not, why it or a value of it is greyed.
+    void explainControl(QWidget *widget, const Reasons &reasons) const;
+    /// Why a control as a whole is greyed, if it isn't for the options' rules: its switch is off,
+    /// or the printer lacks it. Empty if the page knows of nothing.
+    virtual QString greyReason(const QWidget *widget) const;
+    /// Why what follows a switch that is off is greyed.
+    QString switchReason(const BixCheckBoxButton *button) const;
 
     /// Names a widget that the next passes mark, until it is removed again.
     void addConstraintWidget(const QString &key, QWidget *widget);

@@ -121,6 +121,8 @@ void FinishingTab::createWidgets()
               "butGroupRot");
     PageWidgets::addButtons(rotateGroup, rotateButtons, tr);
     registerWidgets();
+    for (int i = 0; i < ModeCount; ++i)
+        buttons[i]->setPictureToolTip(nameOf(Mode(i)));
 }
 
 void FinishingTab::registerWidgets()

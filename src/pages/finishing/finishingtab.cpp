@@ -5,6 +5,7 @@
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "pages/base/groupbinding.h"
+#include "pages/base/reasons.h"
 #include "storage/settingsfile.h"
 #include "widgets/bixbuttongroup.h"
 #include "widgets/bixcheckboxbutton.h"
@@ -168,6 +169,11 @@ void FinishingTab::resetForDisabled()
 
 // The user switches a mode on or off
 
+QString FinishingTab::nameOf(Mode mode) const
+{
+    return label(boundWidgets.key(buttons[mode]));
+}
+
 bool FinishingTab::isOn(Mode mode) const
 {
     return buttons[mode]->isChecked();
@@ -194,12 +200,14 @@ void FinishingTab::markFold()
 
 void FinishingTab::checkFoldConstraints()
 {
-    for (const Mode fold : {TriFold, BiFold}) {
+    const bool both = isOn(TriFold) && isOn(BiFold);
+    for (const auto &[fold, other] : {std::pair(TriFold, BiFold), std::pair(BiFold, TriFold)}) {
         const QString key = headings[fold]->accessibleName();
-        if (isOn(TriFold) && isOn(BiFold))
+        if (both)
             addConstraintWidget(key, headings[fold]);
         else
             removeConstraintWidget(key);
+        ConstraintMark::explain(headings[fold], both ? Reasons::notWith(nameOf(other)) : QString());
     }
 }
 

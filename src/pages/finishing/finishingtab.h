@@ -80,6 +80,7 @@ private:
     void addList(QGridLayout *grid, int row, List list);
 
     bool isOn(Mode mode) const;
+    QString nameOf(Mode mode) const;
     void loadFolds();
     void loadStaple();
     void loadPunch();

@@ -5,6 +5,8 @@
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "pages/base/pagewidgets.h"
+#include "pages/base/reasons.h"
+#include "pages/base/reasontip.h"
 #include "pages/imaging/adjustmentrows.h"
 #include "storage/settingsfile.h"
 #include "widgets/comboboxex.h"
@@ -94,10 +96,7 @@ void adjustmentDialog::connectForms()
     connect(balanceButton, toggled, this, &adjustmentDialog::markCaColorSpace);
     connect(balanceButton, toggled, this, &adjustmentDialog::clearHSLSettings);
 
-    for (QWidget *widget :
-         {static_cast<QWidget *>(hslButton), static_cast<QWidget *>(balanceButton),
-          static_cast<QWidget *>(hueGroup), static_cast<QWidget *>(levelGroup)})
-        connect(customBox, &QCheckBox::toggled, widget, &QWidget::setEnabled);
+    connect(customBox, &QCheckBox::toggled, this, &adjustmentDialog::enableForms);
     connect(customBox, &QCheckBox::toggled, this, &adjustmentDialog::markCaColorSpace);
 
     connect(hueBox, SIGNAL(currentIndexChanged(QString)), this, SLOT(hueSelectedChanged(QString)));
@@ -137,6 +136,7 @@ void adjustmentDialog::enableForms()
          {static_cast<QWidget *>(hslButton), static_cast<QWidget *>(balanceButton),
           static_cast<QWidget *>(hueGroup), static_cast<QWidget *>(levelGroup)})
         widget->setEnabled(customBox->isChecked());
+    ReasonTip::setIfGreyBelow(this, Reasons::switchOnFirst(customBox->text()));
 }
 
 void adjustmentDialog::checkAdjustmentSettings()

@@ -27,6 +27,7 @@ public:
     void retranslate() override;
     QString keywordOf(const QObject *control) const override;
     void choose(const OptionChoice &choice) override;
+    void explain(const OptionLabels &labels) override;
 
     /// The group that mirrors the one of the page "Basic".
     BixButtonGroup *colorGroup() const { return colorGroup_; }
@@ -43,6 +44,9 @@ public slots:
     /// For the mode that the colour group shows.
     void clearDialogSettings();
 
+protected:
+    QString greyReason(const QWidget *widget) const override;
+
 private:
     void createConnections();
     void createLayout();
@@ -53,6 +57,7 @@ private:
     void applyLeanPrint();
     /// Greys blocked levels and moves off them; true if something had to move.
     bool enableLeanPrint(bOption *option);
+    void explainLeanPrint(const Reasons &reasons);
     void loadResolutionFallback();
 
     QGridLayout *qualityGrid;

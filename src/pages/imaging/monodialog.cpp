@@ -2,6 +2,8 @@
 
 #include "model/keys.h"
 #include "pages/base/pagewidgets.h"
+#include "pages/base/reasons.h"
+#include "pages/base/reasontip.h"
 #include "storage/settingsfile.h"
 
 #include <QCheckBox>
@@ -95,6 +97,7 @@ void monoDialog::toggleAdjustment(bool enabled)
           static_cast<QWidget *>(brightness.edit), static_cast<QWidget *>(contrast.edit),
           static_cast<QWidget *>(brightness.slider), static_cast<QWidget *>(contrast.slider)})
         widget->setEnabled(enabled);
+    ReasonTip::setIfGreyBelow(this, Reasons::switchOnFirst(customBox->text()));
     if (enabled)
         return;
     for (const AdjustmentWidgets::Row &row : {brightness, contrast}) {

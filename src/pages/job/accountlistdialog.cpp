@@ -1,6 +1,7 @@
 #include "pages/job/accountlistdialog.h"
 
 #include "pages/base/pagewidgets.h"
+#include "pages/base/reasontip.h"
 #include "pages/job/accounteditdialog.h"
 #include "pages/job/jobaccounting.h"
 
@@ -125,8 +126,10 @@ QString AccountListDialog::highlightedText(Column column) const
 void AccountListDialog::checkCustomIDButtonStates()
 {
     const bool canChange = table->selectionModel()->hasSelection();
-    editButton->setEnabled(canChange);
-    deleteButton->setEnabled(canChange);
+    for (QPushButton *button : {editButton, deleteButton}) {
+        button->setEnabled(canChange);
+        ReasonTip::setIfGrey(button, tr("Select an account first."));
+    }
 }
 
 void AccountListDialog::deleteCustomAccountID()

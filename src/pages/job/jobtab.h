@@ -39,6 +39,10 @@ public:
     bool hasMarks() override;
     void retranslate() override;
     void markConstraintWidgets() override;
+    void explain(const OptionLabels &labels) override;
+
+protected:
+    QString greyReason(const QWidget *widget) const override;
 
 private slots:
     void verifyJobEmail();

@@ -5,6 +5,7 @@
 #include "pages/base/buttoncaption.h"
 #include "pages/base/errorlabel.h"
 #include "pages/base/paneldialog.h"
+#include "pages/base/reasons.h"
 #include "pages/publishing/pagelist.h"
 #include "pages/publishing/publishingrows.h"
 #include "pages/publishing/publishingsettings.h"
@@ -300,27 +301,35 @@ void PublishingTab::checkPageInsertInputText()
     else
         // Nothing is wrong with the list, but the heading also stands for the conflict with
         // interleaving.
-        setWidgetMark(heading, QString(),
-                      constraintWidgets.value(buttons[PageInsert]->accessibleName()));
+        setWidgetMark(heading, conflicts[PageInsert], !conflicts[PageInsert].isEmpty());
 }
 
 // Conflicts
 
-void PublishingTab::setConflict(Mode mode, bool on)
+void PublishingTab::setConflict(Mode mode, const QList<Mode> &others)
 {
+    QStringList reasons;
+    for (const Mode other : others) {
+        if (isOn(mode) && isOn(other))
+            reasons.append(Reasons::notWith(PageWidgets::withoutColon(tr(modeRows[other].text))));
+    }
     const QString key = buttons[mode]->accessibleName();
-    if (on)
-        addConstraintWidget(key, headings[mode]);
-    else
+    if (reasons.isEmpty())
         removeConstraintWidget(key);
+    else
+        addConstraintWidget(key, headings[mode]);
+    const QString text = reasons.join(QLatin1Char('\n'));
+    // The mark of a list of pages has a tool tip of its own.
+    if (conflicts[mode] != text)
+        ConstraintMark::explain(headings[mode], text);
+    conflicts[mode] = text;
 }
 
 void PublishingTab::beforeConstraints()
 {
-    const bool interleaved = isOn(Interleaving);
-    setConflict(Cover, interleaved && isOn(Cover));
-    setConflict(PageInsert, interleaved && isOn(PageInsert));
-    setConflict(Interleaving, interleaved && (isOn(Cover) || isOn(PageInsert)));
+    setConflict(Cover, {Interleaving});
+    setConflict(PageInsert, {Interleaving});
+    setConflict(Interleaving, {Cover, PageInsert});
 }
 
 void PublishingTab::clearMarks()

@@ -94,8 +94,10 @@ private:
     void loadCover();
     void loadPageInsert();
     void loadInterleaving();
-    void setConflict(Mode mode, bool on);
+    /// Names a mode as conflicting with those of these that are on beside it.
+    void setConflict(Mode mode, const QList<Mode> &others);
 
+    std::array<QString, ModeCount> conflicts; ///< what the marks of the modes say; empty for none
     std::array<QLabel *, ModeCount> headings{};
     std::array<BixCheckBoxButton *, ModeCount> buttons{};
     std::array<PageWidgets::LabeledComboBox, ModeCount> media{};

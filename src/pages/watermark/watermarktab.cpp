@@ -36,9 +36,8 @@ constexpr int longestName = 32; // characters
 BixCheckBoxButton *pictureButton(QWidget *parent, const char *icon, const QString &text)
 {
     auto *button = new BixCheckBoxButton(parent, QString(), QIcon(QLatin1String(icon)));
-    const auto parts = button->findChildren<QAbstractButton *>();
-    for (QAbstractButton *part : parts)
-        part->setAccessibleName(text);
+    button->setLabel(text);
+    button->setPictureToolTip(text);
     return button;
 }
 
@@ -199,6 +198,7 @@ void WatermarkTab::handleCustomWatermarkTextEdit()
     newButton->setEnabled(!name.isEmpty() && textIndex(name) < 0);
     saveButton->setEnabled(watermarkButton->isChecked());
     deleteButton->setEnabled(customWatermarks.contains(name));
+    explainTextInput();
 
     PageLayout::setTabOrder(customOrder());
 }

@@ -31,6 +31,10 @@ public:
     /// One entry for each custom watermark, all under the same key.
     Settings extraSettings() override;
     void retranslate() override;
+    void explain(const OptionLabels &labels) override;
+
+protected:
+    QString greyReason(const QWidget *widget) const override;
 
 private slots:
     /// Enables the buttons by what the name field holds.
@@ -73,6 +77,7 @@ private:
     void showIndex(int feature, int index);
     void setSectionEnabled(bool on);
     void applySection();
+    void explainTextInput();
 
     QFrame *section = nullptr; ///< switch, text and look
     QLabel *heading = nullptr;
