@@ -5,6 +5,8 @@
 #include "functiontests.h"
 #include "support/testhelpers.h"
 
+Q_DECLARE_METATYPE(ProfileFault)
+
 class TestProfileRules : public QObject
 {
     Q_OBJECT
@@ -16,34 +18,34 @@ private slots:
 
 void TestProfileRules::validity_data()
 {
-    addColumns<QString, QString, bool>("name", "description", "valid");
-    addRow("none", "", "", false);
+    addColumns<QString, QString, ProfileFault>("name", "description", "fault");
+    addRow("none", "", "", ProfileFault::NoName);
     addRow("leading blank, single quotes and shell signs", " -rf Bob's “$(x)” & <b> \\n *", "",
            true);
-    addRow("hidden file", ".Draft", "", false);
-    addRow("dot inside", "Draft.cfg", "", true);
-    addRow("slash", "../Draft", "", false);
-    addRow("double quote", "5\" label", "", false);
-    addRow("backquote", "a`b", "", false);
-    addRow("semicolon", "a;b", "", false);
-    addRow("a queue's in other case", "oFFice_c3", "", false);
-    addRow("251 bytes", QString(125, QChar(0xe4)) + 'a', "", true);
-    addRow("252 bytes in fewer letters", QString(126, QChar(0xe4)), "", false);
-    addRow("longest description", "a", QString(1024, '\n'), true);
-    addRow("too long a description", "a", QString(1025, 'd'), false);
+    addRow("hidden file", ".Draft", "", ProfileFault::Characters);
+    addRow("dot inside", "Draft.cfg", "", ProfileFault::None);
+    addRow("slash", "../Draft", "", ProfileFault::Characters);
+    addRow("double quote", "5\" label", "", ProfileFault::Characters);
+    addRow("backquote", "a`b", "", ProfileFault::Characters);
+    addRow("semicolon", "a;b", "", ProfileFault::Characters);
+    addRow("a queue's in other case", "oFFice_c3", "", ProfileFault::Reserved);
+    addRow("251 bytes", QString(125, QChar(0xe4)) + 'a', "", ProfileFault::None);
+    addRow("252 bytes in fewer letters", QString(126, QChar(0xe4)), "", ProfileFault::TooLong);
+    addRow("longest description", "a", QString(1024, '\n'), ProfileFault::None);
+    addRow("too long a description", "a", QString(1025, 'd'), ProfileFault::TooLong);
     // The factory entry's name in each language.
     for (const char *reserved :
          {"  factory \t default ", "Paramètres du fabricant", "Werkseinstellung",
           "Impostazioni fabbrica", "Valor predeterminado de fábrica", "PADRÃO DE FÁBRICA"})
-        addRow(reserved, reserved, "", false);
-    addRow("longer than a reserved name", "Werkseinstellung 2", "", true);
+        addRow(reserved, reserved, "", ProfileFault::Reserved);
+    addRow("longer than a reserved name", "Werkseinstellung 2", "", ProfileFault::None);
 }
 
 void TestProfileRules::validity()
 {
     QFETCH(QString, name);
     QFETCH(QString, description);
-    QTEST(isValidProfile(name, description, {"Office_C3"}), "valid");
+    QTEST(profileFault(name, description, {"Office_C3"}), "fault");
 }
 
 static const FunctionTests::Entry<TestProfileRules> entry;
