@@ -18,15 +18,6 @@
 
 namespace {
 
-bool isControl(const QWidget *widget)
-{
-    for (const char *name : {"QAbstractButton", "QLineEdit", "QComboBox", "QSlider", "QGroupBox",
-                             "BixButtonGroup", "BixCheckBoxButton"})
-        if (widget->inherits(name))
-            return true;
-    return false;
-}
-
 /// Lends the registrations of a page.
 class Page : public Tab
 {
@@ -90,7 +81,7 @@ private:
                 continue;
             page->explain(labels);
             for (const QWidget *widget : page->findChildren<QWidget *>())
-                if (isControl(widget) && widget->isVisibleTo(page))
+                if (widget->focusPolicy() != Qt::NoFocus && widget->isVisibleTo(page))
                     checkControl(page->tabName() + ' ' + widget->accessibleName() + ": " + step,
                                  widget);
         }

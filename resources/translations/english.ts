@@ -69,6 +69,81 @@
         <source>Description</source>
         <translation>Description</translation>
     </message>
+    <message>
+        <source>Select an account first.</source>
+        <translation>Select an account first.</translation>
+    </message>
+</context>
+<context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Master</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Yellow</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Lightness</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL(hue, saturation and lightness)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Color balance</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Hue Adjustment</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Color levels</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Adjustment Settings</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modify</translation>
+    </message>
 </context>
 <context>
     <name>BixDialog</name>
@@ -125,6 +200,11 @@ Reloading list now.</translation>
     <message>
         <source>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</source>
         <translation>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</translation>
+    </message>
+    <message>
+        <source>See %1</source>
+        <comment>pages with marks</comment>
+        <translation>See %1</translation>
     </message>
 </context>
 <context>
@@ -220,6 +300,77 @@ Reloading list now.</translation>
     </message>
 </context>
 <context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Offset jobs</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Rotate copies</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Tri-Fold</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Bi-Fold</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Staple:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Punch</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Print side</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Direction of fold</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Number of sheets</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Staple location:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Staple method</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Punch Method:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finishing</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Separation</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Hole punch</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -294,77 +445,6 @@ Credentials and policies will be checked again during printing.
     <message>
         <source>You do not have permission to print.</source>
         <translation>You do not have permission to print.</translation>
-    </message>
-</context>
-<context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Off</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Offset jobs</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Rotate copies</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>On</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Tri-Fold</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Bi-Fold</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Staple:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Punch</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Print side</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Direction of fold</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Number of sheets</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Staple location:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Staple method</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Punch Method:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Finishing</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Separation</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Hole punch</translation>
     </message>
 </context>
 <context>
@@ -680,6 +760,25 @@ For example: %1</translation>
     </message>
 </context>
 <context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Adjustment Settings</translation>
+    </message>
+</context>
+<context>
     <name>NoticeLine</name>
     <message>
         <source>%1 %2 (%3)</source>
@@ -853,6 +952,14 @@ For example: %1</translation>
         <source>Factory Default</source>
         <translation>Factory Default</translation>
     </message>
+    <message>
+        <source>Resolve the marked conflicts first.</source>
+        <translation>Resolve the marked conflicts first.</translation>
+    </message>
+    <message>
+        <source>Select a profile of your own first.</source>
+        <translation>Select a profile of your own first.</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditDialog</name>
@@ -870,6 +977,22 @@ For example: %1</translation>
     <message>
         <source>Name:</source>
         <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Enter a name first.</source>
+        <translation>Enter a name first.</translation>
+    </message>
+    <message>
+        <source>This name is reserved.</source>
+        <translation>This name is reserved.</translation>
+    </message>
+    <message>
+        <source>A name can&apos;t begin with a dot, nor contain / &quot; ` or ;</source>
+        <translation>A name can&apos;t begin with a dot, nor contain / &quot; ` or ;</translation>
+    </message>
+    <message>
+        <source>The name or the description is too long.</source>
+        <translation>The name or the description is too long.</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1401,69 @@ For example: %1</translation>
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 and %2</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 or %2</translation>
+    </message>
+    <message>
+        <source>Always on with %1</source>
+        <translation>Always on with %1</translation>
+    </message>
+    <message>
+        <source>Always on without %1</source>
+        <translation>Always on without %1</translation>
+    </message>
+    <message>
+        <source>Always on with %1 without %2</source>
+        <translation>Always on with %1 without %2</translation>
+    </message>
+    <message>
+        <source>Not with %1</source>
+        <translation>Not with %1</translation>
+    </message>
+    <message>
+        <source>Not installed: %1 (see Printer)</source>
+        <translation>Not installed: %1 (see Printer)</translation>
+    </message>
+    <message>
+        <source>Only with %1</source>
+        <translation>Only with %1</translation>
+    </message>
+    <message>
+        <source>Not with %1 without %2</source>
+        <translation>Not with %1 without %2</translation>
+    </message>
+    <message>
+        <source>Decided by the policy server</source>
+        <translation>Decided by the policy server</translation>
+    </message>
+    <message>
+        <source>Only %1 is left.</source>
+        <translation>Only %1 is left.</translation>
+    </message>
+    <message>
+        <source>This printer does not offer it.</source>
+        <translation>This printer does not offer it.</translation>
+    </message>
+    <message>
+        <source>This printer offers nothing else.</source>
+        <translation>This printer offers nothing else.</translation>
+    </message>
+    <message>
+        <source>Switch on %1 first.</source>
+        <translation>Switch on %1 first.</translation>
+    </message>
+    <message>
+        <source>Choose %1 first.</source>
+        <translation>Choose %1 first.</translation>
+    </message>
+</context>
+<context>
     <name>TelemetryDialog</name>
     <message>
         <source>Data Collection</source>
@@ -1405,95 +1591,21 @@ For example: %1</translation>
         <source>Black</source>
         <translation>Black</translation>
     </message>
-</context>
-<context>
-    <name>adjustmentDialog</name>
     <message>
-        <source>Master</source>
-        <translation>Master</translation>
+        <source>Enter a text first.</source>
+        <translation>Enter a text first.</translation>
     </message>
     <message>
-        <source>Red</source>
-        <translation>Red</translation>
+        <source>This text is in the list already.</source>
+        <translation>This text is in the list already.</translation>
     </message>
     <message>
-        <source>Yellow</source>
-        <translation>Yellow</translation>
+        <source>Choose a text of your own first.</source>
+        <translation>Choose a text of your own first.</translation>
     </message>
     <message>
-        <source>Green</source>
-        <translation>Green</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Cyan</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Blue</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturation</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Lightness</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrast</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Custom</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL(hue, saturation and lightness)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Color balance</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Hue Adjustment</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Color levels</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Adjustment Settings</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modify</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Custom</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Brightness</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrast</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Adjustment Settings</translation>
+        <source>There is no such text of your own.</source>
+        <translation>There is no such text of your own.</translation>
     </message>
 </context>
 </TS>

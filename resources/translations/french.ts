@@ -69,6 +69,81 @@
         <source>Description</source>
         <translation>Description</translation>
     </message>
+    <message>
+        <source>Select an account first.</source>
+        <translation>Sélectionnez d&apos;abord un compte.</translation>
+    </message>
+</context>
+<context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>TSL (teinte, saturation et luminosité)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Balance des couleurs</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Réglage de la teinte</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Niveaux de couleur</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modifier</translation>
+    </message>
 </context>
 <context>
     <name>BixDialog</name>
@@ -125,6 +200,11 @@ La liste va être rechargée.</translation>
     <message>
         <source>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</source>
         <translation>Le dossier %1 est un lien ou appartient à quelqu’un d’autre (%2). Vos paramètres n’y sont ni lus ni enregistrés. Demandez à un administrateur de le supprimer ou de vous en rendre propriétaire.</translation>
+    </message>
+    <message>
+        <source>See %1</source>
+        <comment>pages with marks</comment>
+        <translation>Voir %1</translation>
     </message>
 </context>
 <context>
@@ -220,6 +300,77 @@ La liste va être rechargée.</translation>
     </message>
 </context>
 <context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Décaler les travaux</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Pivoter les copies</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Pli en trois</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Pli en deux</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Agrafage:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforation</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Côté imprimé</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Sens du pli</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Nombre de feuilles</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Position d&apos;agrafage:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Type d&apos;agrafage</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Type de perforation:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finition</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Séparation</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforation</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -294,77 +445,6 @@ Les informations de connexion et les règles seront de nouveau vérifiées lors 
     <message>
         <source>You do not have permission to print.</source>
         <translation>Vous n&apos;êtes pas autorisé à imprimer.</translation>
-    </message>
-</context>
-<context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Désactivé</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Décaler les travaux</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Pivoter les copies</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Activé</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Pli en trois</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Pli en deux</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Agrafage:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Perforation</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Côté imprimé</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Sens du pli</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Nombre de feuilles</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Position d&apos;agrafage:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Type d&apos;agrafage</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Type de perforation:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Finition</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Séparation</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Perforation</translation>
     </message>
 </context>
 <context>
@@ -680,6 +760,25 @@ Par exemple : %1</translation>
     </message>
 </context>
 <context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Réglages</translation>
+    </message>
+</context>
+<context>
     <name>NoticeLine</name>
     <message>
         <source>%1 %2 (%3)</source>
@@ -853,6 +952,14 @@ Par exemple : %1</translation>
         <source>Factory Default</source>
         <translation>Paramètres du fabricant</translation>
     </message>
+    <message>
+        <source>Resolve the marked conflicts first.</source>
+        <translation>Résolvez d&apos;abord les conflits signalés.</translation>
+    </message>
+    <message>
+        <source>Select a profile of your own first.</source>
+        <translation>Sélectionnez d&apos;abord un de vos profils.</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditDialog</name>
@@ -870,6 +977,22 @@ Par exemple : %1</translation>
     <message>
         <source>Name:</source>
         <translation>Nom:</translation>
+    </message>
+    <message>
+        <source>Enter a name first.</source>
+        <translation>Saisissez d&apos;abord un nom.</translation>
+    </message>
+    <message>
+        <source>This name is reserved.</source>
+        <translation>Ce nom est réservé.</translation>
+    </message>
+    <message>
+        <source>A name can&apos;t begin with a dot, nor contain / &quot; ` or ;</source>
+        <translation>Un nom ne peut ni commencer par un point ni contenir / &quot; ` ou ;</translation>
+    </message>
+    <message>
+        <source>The name or the description is too long.</source>
+        <translation>Le nom ou la description est trop long.</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1401,69 @@ Par exemple : %1</translation>
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 ou %2</translation>
+    </message>
+    <message>
+        <source>Always on with %1</source>
+        <translation>Toujours activé avec %1</translation>
+    </message>
+    <message>
+        <source>Always on without %1</source>
+        <translation>Toujours activé sans %1</translation>
+    </message>
+    <message>
+        <source>Always on with %1 without %2</source>
+        <translation>Toujours activé avec %1 sans %2</translation>
+    </message>
+    <message>
+        <source>Not with %1</source>
+        <translation>Pas avec %1</translation>
+    </message>
+    <message>
+        <source>Not installed: %1 (see Printer)</source>
+        <translation>Non installé : %1 (voir Imprimante)</translation>
+    </message>
+    <message>
+        <source>Only with %1</source>
+        <translation>Seulement avec %1</translation>
+    </message>
+    <message>
+        <source>Not with %1 without %2</source>
+        <translation>Pas avec %1 sans %2</translation>
+    </message>
+    <message>
+        <source>Decided by the policy server</source>
+        <translation>Décidé par le serveur de règles</translation>
+    </message>
+    <message>
+        <source>Only %1 is left.</source>
+        <translation>Il ne reste que « %1 ».</translation>
+    </message>
+    <message>
+        <source>This printer does not offer it.</source>
+        <translation>Cette imprimante ne le propose pas.</translation>
+    </message>
+    <message>
+        <source>This printer offers nothing else.</source>
+        <translation>Cette imprimante ne propose rien d&apos;autre.</translation>
+    </message>
+    <message>
+        <source>Switch on %1 first.</source>
+        <translation>Activez d&apos;abord « %1 ».</translation>
+    </message>
+    <message>
+        <source>Choose %1 first.</source>
+        <translation>Choisissez d&apos;abord « %1 ».</translation>
+    </message>
+</context>
+<context>
     <name>TelemetryDialog</name>
     <message>
         <source>Data Collection</source>
@@ -1405,95 +1591,21 @@ Par exemple : %1</translation>
         <source>Black</source>
         <translation>Noir</translation>
     </message>
-</context>
-<context>
-    <name>adjustmentDialog</name>
     <message>
-        <source>Master</source>
-        <translation>Général</translation>
+        <source>Enter a text first.</source>
+        <translation>Saisissez d&apos;abord un texte.</translation>
     </message>
     <message>
-        <source>Red</source>
-        <translation>Rouge</translation>
+        <source>This text is in the list already.</source>
+        <translation>Ce texte est déjà dans la liste.</translation>
     </message>
     <message>
-        <source>Yellow</source>
-        <translation>Jaune</translation>
+        <source>Choose a text of your own first.</source>
+        <translation>Choisissez d&apos;abord un de vos textes.</translation>
     </message>
     <message>
-        <source>Green</source>
-        <translation>Vert</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Cyan</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Bleu</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturation</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Luminosité</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personnalisé</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>TSL (teinte, saturation et luminosité)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Balance des couleurs</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Réglage de la teinte</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Niveaux de couleur</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Réglages</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modifier</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Personnalisé</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Luminosité</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Réglages</translation>
+        <source>There is no such text of your own.</source>
+        <translation>Ce texte n&apos;est pas un des vôtres.</translation>
     </message>
 </context>
 </TS>

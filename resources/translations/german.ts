@@ -69,6 +69,81 @@
         <source>Description</source>
         <translation>Beschreibung</translation>
     </message>
+    <message>
+        <source>Select an account first.</source>
+        <translation>Wählen Sie zuerst ein Konto aus.</translation>
+    </message>
+</context>
+<context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Gesamt</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL (Farbton, Sättigung und Helligkeit)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Farbbalance</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Farbtonanpassung</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Farbanteile</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Anpassung</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Ändern</translation>
+    </message>
 </context>
 <context>
     <name>BixDialog</name>
@@ -125,6 +200,11 @@ Die Liste wird neu geladen.</translation>
     <message>
         <source>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</source>
         <translation>Der Ordner %1 ist ein Verweis oder gehört jemand anderem (%2). Ihre Einstellungen werden weder von dort gelesen noch dort gespeichert. Bitten Sie einen Administrator, ihn zu entfernen oder Ihnen zu übereignen.</translation>
+    </message>
+    <message>
+        <source>See %1</source>
+        <comment>pages with marks</comment>
+        <translation>Siehe %1</translation>
     </message>
 </context>
 <context>
@@ -220,6 +300,77 @@ Die Liste wird neu geladen.</translation>
     </message>
 </context>
 <context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Aufträge versetzen</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Kopien drehen</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Dreifachfalz</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Einfachfalz</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Heften:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Lochen</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Druckseite</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Falzrichtung</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Anzahl der Blätter</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Heftposition:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Heftart</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Lochungsart:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finishing</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Trennung</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Lochen</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -294,77 +445,6 @@ Anmeldedaten und Richtlinien werden beim Drucken erneut geprüft.
     <message>
         <source>You do not have permission to print.</source>
         <translation>Sie sind nicht zum Drucken berechtigt.</translation>
-    </message>
-</context>
-<context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Aus</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Aufträge versetzen</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Kopien drehen</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Ein</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Dreifachfalz</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Einfachfalz</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Heften:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Lochen</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Druckseite</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Falzrichtung</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Anzahl der Blätter</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Heftposition:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Heftart</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Lochungsart:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Finishing</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Trennung</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Lochen</translation>
     </message>
 </context>
 <context>
@@ -680,6 +760,25 @@ Zum Beispiel: %1</translation>
     </message>
 </context>
 <context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Anpassung</translation>
+    </message>
+</context>
+<context>
     <name>NoticeLine</name>
     <message>
         <source>%1 %2 (%3)</source>
@@ -853,6 +952,14 @@ Zum Beispiel: %1</translation>
         <source>Factory Default</source>
         <translation>Werkseinstellung</translation>
     </message>
+    <message>
+        <source>Resolve the marked conflicts first.</source>
+        <translation>Lösen Sie zuerst die markierten Konflikte.</translation>
+    </message>
+    <message>
+        <source>Select a profile of your own first.</source>
+        <translation>Wählen Sie zuerst ein eigenes Profil aus.</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditDialog</name>
@@ -870,6 +977,22 @@ Zum Beispiel: %1</translation>
     <message>
         <source>Name:</source>
         <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Enter a name first.</source>
+        <translation>Geben Sie zuerst einen Namen ein.</translation>
+    </message>
+    <message>
+        <source>This name is reserved.</source>
+        <translation>Dieser Name ist reserviert.</translation>
+    </message>
+    <message>
+        <source>A name can&apos;t begin with a dot, nor contain / &quot; ` or ;</source>
+        <translation>Ein Name darf nicht mit einem Punkt beginnen und weder / noch &quot; ` oder ; enthalten</translation>
+    </message>
+    <message>
+        <source>The name or the description is too long.</source>
+        <translation>Der Name oder die Beschreibung ist zu lang.</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1401,69 @@ Zum Beispiel: %1</translation>
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>Always on with %1</source>
+        <translation>Immer ein mit %1</translation>
+    </message>
+    <message>
+        <source>Always on without %1</source>
+        <translation>Immer ein ohne %1</translation>
+    </message>
+    <message>
+        <source>Always on with %1 without %2</source>
+        <translation>Immer ein mit %1 ohne %2</translation>
+    </message>
+    <message>
+        <source>Not with %1</source>
+        <translation>Nicht mit %1</translation>
+    </message>
+    <message>
+        <source>Not installed: %1 (see Printer)</source>
+        <translation>Nicht installiert: %1 (siehe Drucker)</translation>
+    </message>
+    <message>
+        <source>Only with %1</source>
+        <translation>Nur mit %1</translation>
+    </message>
+    <message>
+        <source>Not with %1 without %2</source>
+        <translation>Nicht mit %1 ohne %2</translation>
+    </message>
+    <message>
+        <source>Decided by the policy server</source>
+        <translation>Vom Richtlinienserver festgelegt</translation>
+    </message>
+    <message>
+        <source>Only %1 is left.</source>
+        <translation>Nur „%1“ ist übrig.</translation>
+    </message>
+    <message>
+        <source>This printer does not offer it.</source>
+        <translation>Dieser Drucker bietet das nicht.</translation>
+    </message>
+    <message>
+        <source>This printer offers nothing else.</source>
+        <translation>Dieser Drucker bietet nichts anderes.</translation>
+    </message>
+    <message>
+        <source>Switch on %1 first.</source>
+        <translation>Schalten Sie zuerst „%1“ ein.</translation>
+    </message>
+    <message>
+        <source>Choose %1 first.</source>
+        <translation>Wählen Sie zuerst „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>TelemetryDialog</name>
     <message>
         <source>Data Collection</source>
@@ -1405,95 +1591,21 @@ Zum Beispiel: %1</translation>
         <source>Black</source>
         <translation>Schwarz</translation>
     </message>
-</context>
-<context>
-    <name>adjustmentDialog</name>
     <message>
-        <source>Master</source>
-        <translation>Gesamt</translation>
+        <source>Enter a text first.</source>
+        <translation>Geben Sie zuerst einen Text ein.</translation>
     </message>
     <message>
-        <source>Red</source>
-        <translation>Rot</translation>
+        <source>This text is in the list already.</source>
+        <translation>Dieser Text steht schon in der Liste.</translation>
     </message>
     <message>
-        <source>Yellow</source>
-        <translation>Gelb</translation>
+        <source>Choose a text of your own first.</source>
+        <translation>Wählen Sie zuerst einen eigenen Text.</translation>
     </message>
     <message>
-        <source>Green</source>
-        <translation>Grün</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Cyan</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Blau</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Sättigung</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Helligkeit</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Kontrast</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Benutzerdefiniert</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL (Farbton, Sättigung und Helligkeit)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Farbbalance</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Farbtonanpassung</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Farbanteile</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Anpassung</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Ändern</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Benutzerdefiniert</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Helligkeit</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Kontrast</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Anpassung</translation>
+        <source>There is no such text of your own.</source>
+        <translation>Diesen Text haben Sie nicht angelegt.</translation>
     </message>
 </context>
 </TS>

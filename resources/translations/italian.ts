@@ -69,6 +69,81 @@
         <source>Description</source>
         <translation>Descrizione</translation>
     </message>
+    <message>
+        <source>Select an account first.</source>
+        <translation>Selezionare prima un conto.</translation>
+    </message>
+</context>
+<context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rosso</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Giallo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Ciano</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blu</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturazione</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosità</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrasto</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizzato</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL (tonalità, saturazione e luminosità)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Bilanciamento colore</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Regolazione tonalità</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Livelli di colore</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Impostazioni di regolazione</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modifica</translation>
+    </message>
 </context>
 <context>
     <name>BixDialog</name>
@@ -125,6 +200,11 @@ L&apos;elenco viene ricaricato.</translation>
     <message>
         <source>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</source>
         <translation>La cartella %1 è un collegamento o appartiene a qualcun altro (%2). Le impostazioni non vengono né lette da essa né salvate in essa. Chiedere a un amministratore di rimuoverla o di assegnarla al proprio utente.</translation>
+    </message>
+    <message>
+        <source>See %1</source>
+        <comment>pages with marks</comment>
+        <translation>Vedere %1</translation>
     </message>
 </context>
 <context>
@@ -220,6 +300,77 @@ L&apos;elenco viene ricaricato.</translation>
     </message>
 </context>
 <context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Sfalsa lavori</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Ruota copie</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Attivato</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Piega in tre</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Piega in due</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Pinzatura:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforazione</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Lato di stampa</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Direzione di piega</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Numero di fogli</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Posizione di pinzatura:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Tipo di pinzatura</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Tipo di perforazione:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finitura</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Separazione</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforazione</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -294,77 +445,6 @@ Le credenziali e i criteri verranno verificati di nuovo durante la stampa.
     <message>
         <source>You do not have permission to print.</source>
         <translation>Non si dispone dell&apos;autorizzazione per stampare.</translation>
-    </message>
-</context>
-<context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Disattivato</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Sfalsa lavori</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Ruota copie</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Attivato</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Piega in tre</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Piega in due</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Pinzatura:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Perforazione</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Lato di stampa</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Direzione di piega</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Numero di fogli</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Posizione di pinzatura:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Tipo di pinzatura</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Tipo di perforazione:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Finitura</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Separazione</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Perforazione</translation>
     </message>
 </context>
 <context>
@@ -680,6 +760,25 @@ Ad esempio: %1</translation>
     </message>
 </context>
 <context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizzato</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosità</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrasto</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Impostazioni di regolazione</translation>
+    </message>
+</context>
+<context>
     <name>NoticeLine</name>
     <message>
         <source>%1 %2 (%3)</source>
@@ -853,6 +952,14 @@ Ad esempio: %1</translation>
         <source>Factory Default</source>
         <translation>Impostazioni fabbrica</translation>
     </message>
+    <message>
+        <source>Resolve the marked conflicts first.</source>
+        <translation>Risolvere prima i conflitti contrassegnati.</translation>
+    </message>
+    <message>
+        <source>Select a profile of your own first.</source>
+        <translation>Selezionare prima un proprio profilo.</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditDialog</name>
@@ -870,6 +977,22 @@ Ad esempio: %1</translation>
     <message>
         <source>Name:</source>
         <translation>Nome:</translation>
+    </message>
+    <message>
+        <source>Enter a name first.</source>
+        <translation>Immettere prima un nome.</translation>
+    </message>
+    <message>
+        <source>This name is reserved.</source>
+        <translation>Questo nome è riservato.</translation>
+    </message>
+    <message>
+        <source>A name can&apos;t begin with a dot, nor contain / &quot; ` or ;</source>
+        <translation>Un nome non può iniziare con un punto né contenere / &quot; ` o ;</translation>
+    </message>
+    <message>
+        <source>The name or the description is too long.</source>
+        <translation>Il nome o la descrizione è troppo lungo.</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1401,69 @@ Ad esempio: %1</translation>
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 e %2</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 o %2</translation>
+    </message>
+    <message>
+        <source>Always on with %1</source>
+        <translation>Sempre attivo con %1</translation>
+    </message>
+    <message>
+        <source>Always on without %1</source>
+        <translation>Sempre attivo senza %1</translation>
+    </message>
+    <message>
+        <source>Always on with %1 without %2</source>
+        <translation>Sempre attivo con %1 senza %2</translation>
+    </message>
+    <message>
+        <source>Not with %1</source>
+        <translation>Non con %1</translation>
+    </message>
+    <message>
+        <source>Not installed: %1 (see Printer)</source>
+        <translation>Non installato: %1 (vedere Stampante)</translation>
+    </message>
+    <message>
+        <source>Only with %1</source>
+        <translation>Solo con %1</translation>
+    </message>
+    <message>
+        <source>Not with %1 without %2</source>
+        <translation>Non con %1 senza %2</translation>
+    </message>
+    <message>
+        <source>Decided by the policy server</source>
+        <translation>Deciso dal server dei criteri</translation>
+    </message>
+    <message>
+        <source>Only %1 is left.</source>
+        <translation>Resta solo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>This printer does not offer it.</source>
+        <translation>Questa stampante non lo offre.</translation>
+    </message>
+    <message>
+        <source>This printer offers nothing else.</source>
+        <translation>Questa stampante non offre altro.</translation>
+    </message>
+    <message>
+        <source>Switch on %1 first.</source>
+        <translation>Attivare prima &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Choose %1 first.</source>
+        <translation>Scegliere prima &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>TelemetryDialog</name>
     <message>
         <source>Data Collection</source>
@@ -1405,95 +1591,21 @@ Ad esempio: %1</translation>
         <source>Black</source>
         <translation>Nero</translation>
     </message>
-</context>
-<context>
-    <name>adjustmentDialog</name>
     <message>
-        <source>Master</source>
-        <translation>Generale</translation>
+        <source>Enter a text first.</source>
+        <translation>Immettere prima un testo.</translation>
     </message>
     <message>
-        <source>Red</source>
-        <translation>Rosso</translation>
+        <source>This text is in the list already.</source>
+        <translation>Questo testo è già nell&apos;elenco.</translation>
     </message>
     <message>
-        <source>Yellow</source>
-        <translation>Giallo</translation>
+        <source>Choose a text of your own first.</source>
+        <translation>Scegliere prima un proprio testo.</translation>
     </message>
     <message>
-        <source>Green</source>
-        <translation>Verde</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Ciano</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Blu</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturazione</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Luminosità</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrasto</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizzato</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL (tonalità, saturazione e luminosità)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Bilanciamento colore</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Regolazione tonalità</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Livelli di colore</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Impostazioni di regolazione</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modifica</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizzato</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Luminosità</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrasto</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Impostazioni di regolazione</translation>
+        <source>There is no such text of your own.</source>
+        <translation>Questo testo non è tra i propri.</translation>
     </message>
 </context>
 </TS>

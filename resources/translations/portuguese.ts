@@ -69,6 +69,81 @@
         <source>Description</source>
         <translation>Descrição</translation>
     </message>
+    <message>
+        <source>Select an account first.</source>
+        <translation>Selecione primeiro uma conta.</translation>
+    </message>
+</context>
+<context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Vermelho</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarelo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Ciano</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturação</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosidade</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL (matiz, saturação e luminosidade)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Balanço de cores</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Ajuste de matiz</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Níveis de cor</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Definições de ajuste</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modificar</translation>
+    </message>
 </context>
 <context>
     <name>BixDialog</name>
@@ -125,6 +200,11 @@ A lista vai ser recarregada.</translation>
     <message>
         <source>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</source>
         <translation>A pasta %1 é uma ligação ou pertence a outra pessoa (%2). As suas definições não são lidas dela nem guardadas nela. Peça a um administrador que a remova ou que o torne proprietário dela.</translation>
+    </message>
+    <message>
+        <source>See %1</source>
+        <comment>pages with marks</comment>
+        <translation>Ver %1</translation>
     </message>
 </context>
 <context>
@@ -220,6 +300,77 @@ A lista vai ser recarregada.</translation>
     </message>
 </context>
 <context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Desativado</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Deslocar trabalhos</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Girar cópias</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ativado</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Dobra em três</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Dobra ao meio</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Agrafamento:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perfuração</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Lado de impressão</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Direção da dobra</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Número de folhas</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Posição do agrafo:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Tipo de agrafamento</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Tipo de perfuração:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Acabamento</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Separação</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perfuração</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -294,77 +445,6 @@ As credenciais e as políticas serão verificadas novamente durante a impressão
     <message>
         <source>You do not have permission to print.</source>
         <translation>Não tem permissão para imprimir.</translation>
-    </message>
-</context>
-<context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Desativado</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Deslocar trabalhos</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Girar cópias</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Ativado</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Dobra em três</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Dobra ao meio</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Agrafamento:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Perfuração</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Lado de impressão</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Direção da dobra</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Número de folhas</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Posição do agrafo:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Tipo de agrafamento</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Tipo de perfuração:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Acabamento</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Separação</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Perfuração</translation>
     </message>
 </context>
 <context>
@@ -680,6 +760,25 @@ Por exemplo: %1</translation>
     </message>
 </context>
 <context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brilho</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Definições de ajuste</translation>
+    </message>
+</context>
+<context>
     <name>NoticeLine</name>
     <message>
         <source>%1 %2 (%3)</source>
@@ -853,6 +952,14 @@ Por exemplo: %1</translation>
         <source>Factory Default</source>
         <translation>Padrão de fábrica</translation>
     </message>
+    <message>
+        <source>Resolve the marked conflicts first.</source>
+        <translation>Resolva primeiro os conflitos assinalados.</translation>
+    </message>
+    <message>
+        <source>Select a profile of your own first.</source>
+        <translation>Selecione primeiro um perfil seu.</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditDialog</name>
@@ -870,6 +977,22 @@ Por exemplo: %1</translation>
     <message>
         <source>Name:</source>
         <translation>Nome:</translation>
+    </message>
+    <message>
+        <source>Enter a name first.</source>
+        <translation>Introduza primeiro um nome.</translation>
+    </message>
+    <message>
+        <source>This name is reserved.</source>
+        <translation>Este nome é reservado.</translation>
+    </message>
+    <message>
+        <source>A name can&apos;t begin with a dot, nor contain / &quot; ` or ;</source>
+        <translation>Um nome não pode começar por um ponto nem conter / &quot; ` ou ;</translation>
+    </message>
+    <message>
+        <source>The name or the description is too long.</source>
+        <translation>O nome ou a descrição é demasiado longo.</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1401,69 @@ Por exemplo: %1</translation>
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 e %2</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 ou %2</translation>
+    </message>
+    <message>
+        <source>Always on with %1</source>
+        <translation>Sempre ativado com %1</translation>
+    </message>
+    <message>
+        <source>Always on without %1</source>
+        <translation>Sempre ativado sem %1</translation>
+    </message>
+    <message>
+        <source>Always on with %1 without %2</source>
+        <translation>Sempre ativado com %1 sem %2</translation>
+    </message>
+    <message>
+        <source>Not with %1</source>
+        <translation>Não com %1</translation>
+    </message>
+    <message>
+        <source>Not installed: %1 (see Printer)</source>
+        <translation>Não instalado: %1 (ver Impressora)</translation>
+    </message>
+    <message>
+        <source>Only with %1</source>
+        <translation>Só com %1</translation>
+    </message>
+    <message>
+        <source>Not with %1 without %2</source>
+        <translation>Não com %1 sem %2</translation>
+    </message>
+    <message>
+        <source>Decided by the policy server</source>
+        <translation>Decidido pelo servidor de políticas</translation>
+    </message>
+    <message>
+        <source>Only %1 is left.</source>
+        <translation>Só resta &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>This printer does not offer it.</source>
+        <translation>Esta impressora não oferece isto.</translation>
+    </message>
+    <message>
+        <source>This printer offers nothing else.</source>
+        <translation>Esta impressora não oferece outra opção.</translation>
+    </message>
+    <message>
+        <source>Switch on %1 first.</source>
+        <translation>Ative primeiro &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Choose %1 first.</source>
+        <translation>Escolha primeiro &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>TelemetryDialog</name>
     <message>
         <source>Data Collection</source>
@@ -1405,95 +1591,21 @@ Por exemplo: %1</translation>
         <source>Black</source>
         <translation>Preto</translation>
     </message>
-</context>
-<context>
-    <name>adjustmentDialog</name>
     <message>
-        <source>Master</source>
-        <translation>Geral</translation>
+        <source>Enter a text first.</source>
+        <translation>Introduza primeiro um texto.</translation>
     </message>
     <message>
-        <source>Red</source>
-        <translation>Vermelho</translation>
+        <source>This text is in the list already.</source>
+        <translation>Este texto já está na lista.</translation>
     </message>
     <message>
-        <source>Yellow</source>
-        <translation>Amarelo</translation>
+        <source>Choose a text of your own first.</source>
+        <translation>Escolha primeiro um texto seu.</translation>
     </message>
     <message>
-        <source>Green</source>
-        <translation>Verde</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Ciano</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Azul</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturação</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Luminosidade</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizado</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL (matiz, saturação e luminosidade)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Balanço de cores</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Ajuste de matiz</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Níveis de cor</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Definições de ajuste</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modificar</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizado</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Brilho</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Definições de ajuste</translation>
+        <source>There is no such text of your own.</source>
+        <translation>Este texto não é seu.</translation>
     </message>
 </context>
 </TS>

@@ -69,6 +69,81 @@
         <source>Description</source>
         <translation>Descripción</translation>
     </message>
+    <message>
+        <source>Select an account first.</source>
+        <translation>Seleccione primero una cuenta.</translation>
+    </message>
+</context>
+<context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarillo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cian</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosidad</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL (tono, saturación y luminosidad)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Balance de color</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Ajuste de tono</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Niveles de color</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Parámetros de ajuste</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modificar</translation>
+    </message>
 </context>
 <context>
     <name>BixDialog</name>
@@ -125,6 +200,11 @@ Se volverá a cargar la lista.</translation>
     <message>
         <source>The folder %1 is a link, or it belongs to somebody else (%2). Your settings are neither read from it nor saved in it. Ask an administrator to remove it or to make you its owner.</source>
         <translation>La carpeta %1 es un enlace o pertenece a otra persona (%2). Sus ajustes no se leen de ella ni se guardan en ella. Pida a un administrador que la elimine o que le haga su propietario.</translation>
+    </message>
+    <message>
+        <source>See %1</source>
+        <comment>pages with marks</comment>
+        <translation>Vea %1</translation>
     </message>
 </context>
 <context>
@@ -220,6 +300,77 @@ Se volverá a cargar la lista.</translation>
     </message>
 </context>
 <context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Desplazar trabajos</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Girar copias</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Plegado en tres</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Plegado en dos</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Grapado:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforación</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Cara de impresión</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Dirección del pliegue</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Número de hojas</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Posición de la grapa:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Tipo de grapado</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Tipo de perforación:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Acabado</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Separación</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforación</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -294,77 +445,6 @@ Las credenciales y las directivas se volverán a comprobar durante la impresión
     <message>
         <source>You do not have permission to print.</source>
         <translation>No tiene permiso para imprimir.</translation>
-    </message>
-</context>
-<context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Desactivado</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Desplazar trabajos</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Girar copias</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Activado</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Plegado en tres</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Plegado en dos</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Grapado:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Perforación</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Cara de impresión</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Dirección del pliegue</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Número de hojas</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Posición de la grapa:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Tipo de grapado</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Tipo de perforación:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Acabado</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Separación</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Perforación</translation>
     </message>
 </context>
 <context>
@@ -680,6 +760,25 @@ Por ejemplo: %1</translation>
     </message>
 </context>
 <context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Parámetros de ajuste</translation>
+    </message>
+</context>
+<context>
     <name>NoticeLine</name>
     <message>
         <source>%1 %2 (%3)</source>
@@ -853,6 +952,14 @@ Por ejemplo: %1</translation>
         <source>Factory Default</source>
         <translation>Valor predeterminado de fábrica</translation>
     </message>
+    <message>
+        <source>Resolve the marked conflicts first.</source>
+        <translation>Resuelva primero los conflictos marcados.</translation>
+    </message>
+    <message>
+        <source>Select a profile of your own first.</source>
+        <translation>Seleccione primero un perfil propio.</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditDialog</name>
@@ -870,6 +977,22 @@ Por ejemplo: %1</translation>
     <message>
         <source>Name:</source>
         <translation>Nombre:</translation>
+    </message>
+    <message>
+        <source>Enter a name first.</source>
+        <translation>Introduzca primero un nombre.</translation>
+    </message>
+    <message>
+        <source>This name is reserved.</source>
+        <translation>Este nombre está reservado.</translation>
+    </message>
+    <message>
+        <source>A name can&apos;t begin with a dot, nor contain / &quot; ` or ;</source>
+        <translation>Un nombre no puede empezar por un punto ni contener / &quot; ` o ;</translation>
+    </message>
+    <message>
+        <source>The name or the description is too long.</source>
+        <translation>El nombre o la descripción es demasiado largo.</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1401,69 @@ Por ejemplo: %1</translation>
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 o %2</translation>
+    </message>
+    <message>
+        <source>Always on with %1</source>
+        <translation>Siempre activado con %1</translation>
+    </message>
+    <message>
+        <source>Always on without %1</source>
+        <translation>Siempre activado sin %1</translation>
+    </message>
+    <message>
+        <source>Always on with %1 without %2</source>
+        <translation>Siempre activado con %1 sin %2</translation>
+    </message>
+    <message>
+        <source>Not with %1</source>
+        <translation>No con %1</translation>
+    </message>
+    <message>
+        <source>Not installed: %1 (see Printer)</source>
+        <translation>No instalado: %1 (vea Impresora)</translation>
+    </message>
+    <message>
+        <source>Only with %1</source>
+        <translation>Solo con %1</translation>
+    </message>
+    <message>
+        <source>Not with %1 without %2</source>
+        <translation>No con %1 sin %2</translation>
+    </message>
+    <message>
+        <source>Decided by the policy server</source>
+        <translation>Lo decide el servidor de directivas</translation>
+    </message>
+    <message>
+        <source>Only %1 is left.</source>
+        <translation>Solo queda &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>This printer does not offer it.</source>
+        <translation>Esta impresora no lo ofrece.</translation>
+    </message>
+    <message>
+        <source>This printer offers nothing else.</source>
+        <translation>Esta impresora no ofrece otra cosa.</translation>
+    </message>
+    <message>
+        <source>Switch on %1 first.</source>
+        <translation>Active primero &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Choose %1 first.</source>
+        <translation>Elija primero &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>TelemetryDialog</name>
     <message>
         <source>Data Collection</source>
@@ -1405,95 +1591,21 @@ Por ejemplo: %1</translation>
         <source>Black</source>
         <translation>Negro</translation>
     </message>
-</context>
-<context>
-    <name>adjustmentDialog</name>
     <message>
-        <source>Master</source>
-        <translation>General</translation>
+        <source>Enter a text first.</source>
+        <translation>Introduzca primero un texto.</translation>
     </message>
     <message>
-        <source>Red</source>
-        <translation>Rojo</translation>
+        <source>This text is in the list already.</source>
+        <translation>Este texto ya está en la lista.</translation>
     </message>
     <message>
-        <source>Yellow</source>
-        <translation>Amarillo</translation>
+        <source>Choose a text of your own first.</source>
+        <translation>Elija primero un texto propio.</translation>
     </message>
     <message>
-        <source>Green</source>
-        <translation>Verde</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Cian</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Azul</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturación</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Luminosidad</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizado</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL (tono, saturación y luminosidad)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Balance de color</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Ajuste de tono</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Niveles de color</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Parámetros de ajuste</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modificar</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizado</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Brillo</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Parámetros de ajuste</translation>
+        <source>There is no such text of your own.</source>
+        <translation>Este texto no es suyo.</translation>
     </message>
 </context>
 </TS>
