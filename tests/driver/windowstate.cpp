@@ -294,6 +294,18 @@ void addFront(Lines *lines, const QWidget *window)
         lines->add("message", plain(box->text()));
 }
 
+/// Of an item of a list, or of a picture button.
+QString valueToolTip(const QWidget *widget, const QString &value)
+{
+    if (const auto *box = qobject_cast<const QComboBox *>(widget))
+        return box->itemData(box->findText(value), Qt::ToolTipRole).toString();
+    const auto buttons = widget->findChildren<QAbstractButton *>();
+    for (const QAbstractButton *button : buttons)
+        if (button->accessibleName() == value)
+            return button->toolTip();
+    return QString();
+}
+
 } // namespace
 
 QStringList windowState()
@@ -333,6 +345,9 @@ QStringList windowState()
 
 QString propertyText(const QWidget *widget, const QString &property)
 {
+    const QString toolTipOf("toolTip of ");
+    if (property.startsWith(toolTipOf))
+        return plain(valueToolTip(widget, property.mid(toolTipOf.size())));
     if (property == "color") {
         const auto *label =
             widget->inherits("BixButtonGroup") ? widget->findChild<QLabel *>() : nullptr;

@@ -15,5 +15,6 @@ class QWidget;
 QStringList windowState();
 
 /// A property of a widget as text; "color" is that of its text, of a button group its label;
-/// "heading" is the first line of a long text.
+/// "heading" is the first line of a long text, "toolTip of VALUE" that of an item or a button of a
+/// group.
 QString propertyText(const QWidget *widget, const QString &property);
