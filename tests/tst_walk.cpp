@@ -18,6 +18,12 @@
 
 namespace {
 
+/// Of all sample PPDs, with the lines that the panel lists a queue for.
+constexpr char addQueues[] = R"(for ppd in $1/demo/ppd/*.ppd $1/tests/cases/stores/*.ppd; do
+    sed '/^\*\(Manufacturer\|1284Device\)/d; /^\*FormatVersion/a *Manufacturer: "Brixola"\
+*1284DeviceID: "MFG:Brix;"\n*cupsFilter: "application/pdf 0 bixfilter_F"' $ppd > /tmp/ppd
+    $1/demo/printserver.sh add $2 $(basename $ppd .ppd) /tmp/ppd || exit; done)";
+
 /// Lends the registrations of a page.
 class Page : public Tab
 {
@@ -46,8 +52,7 @@ public:
         }
     }
 
-    QTableWidget *printers() const { return findNamed<QTableWidget>(this, "tblPrinters"); }
-
+    QTableWidget *printers = findNamed<QTableWidget>(this, "tblPrinters");
     QStringList faults;
     int grey = 0;      ///< greyed controls and blocked items, after all steps together
     int explained = 0; ///< those of them that say why
@@ -130,25 +135,16 @@ private slots:
 
 void TestWalk::everyGreyControlSaysWhy()
 {
-    QVERIFY(QDir().mkpath(userDirectory()));
-    QVERIFY(setFileText(settingsPath(), "Telemetry=False"));
+    QVERIFY(QDir().mkpath(userDirectory()) && setFileText(settingsPath(), "Telemetry=False"));
     const QString server = QFileInfo(qEnvironmentVariable("CUPS_SERVER")).path();
-    const QString adding = // with the lines that the panel lists a queue for
-        R"(sed '/^\*Manufacturer\|^\*1284Dev/d;s/^\*FormatVersion.*/&\n*Manufacturer: "Brixola"\n)"
-        R"(*1284DeviceID: "MFG:Brix;"\n*cupsFilter: "application\/pdf 0 bixfilter_F"/' $1 > /tmp/ppd; )" PRESSDESK_SOURCE_DIR
-        "/demo/printserver.sh add $2 $(basename $1 .ppd) /tmp/ppd";
-    for (const char *folder : {"/demo/ppd", "/tests/cases/stores"})
-        for (const QFileInfo &ppd :
-             QDir(PRESSDESK_SOURCE_DIR + QString(folder)).entryInfoList({"*.ppd"}))
-            QCOMPARE(QProcess::execute("sh", {"-c", adding, "sh", ppd.filePath(), server}), 0);
+    QCOMPARE(QProcess::execute("sh", {"-c", addQueues, "sh", PRESSDESK_SOURCE_DIR, server}), 0);
     Walk walk;
-    for (int row = 0; row < walk.printers()->rowCount(); ++row) {
-        walk.printers()->setCurrentCell(row, 0);
+    for (int row = 0; row < walk.printers->rowCount(); ++row) {
+        walk.printers->setCurrentCell(row, 0);
         walk.run();
     }
     qDebug("%d steps: %d greyed, %d of them say why", walk.steps, walk.grey, walk.explained);
-    QVERIFY2(walk.faults.isEmpty(), qPrintable(walk.faults.value(0)));
-    QVERIFY(walk.grey > 1000);
+    QVERIFY2(walk.faults.isEmpty() && walk.grey > 1000, qPrintable(walk.faults.value(0)));
 }
 
 QTEST_MAIN(TestWalk)

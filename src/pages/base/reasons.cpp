@@ -103,7 +103,8 @@ QString Reasons::sentence(const OptionChoice &choice, const Conditions &conditio
     }
     QStringList on;
     QStringList off;
-    bool installed = true;
+    // One who is on the page Printer needs no hint at it.
+    bool installed = !isInstalledOption(*choice.option());
     for (const OptionChoice *condition : conditions) {
         const bOption &option = *condition->option();
         if (option.key().startsWith(policyPrefix))
