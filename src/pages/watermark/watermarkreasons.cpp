@@ -4,6 +4,7 @@
 #include "pages/base/reasontip.h"
 #include "pages/watermark/watermarktab.h"
 #include "widgets/bixcheckboxbutton.h"
+#include "widgets/comboboxex.h"
 
 #include <QFrame>
 #include <QLineEdit>
@@ -18,8 +19,11 @@ void WatermarkTab::explain(const OptionLabels &labels)
 QString WatermarkTab::greyReason(const QWidget *widget) const
 {
     const bool followsSwitch = section->isAncestorOf(widget) && widget != watermarkButton;
-    return followsSwitch && !watermarkButton->isChecked() ? switchReason(watermarkButton)
-                                                          : Tab::greyReason(widget);
+    if (followsSwitch && !watermarkButton->isChecked())
+        return switchReason(watermarkButton);
+    // Without a choice of colors there is black alone.
+    return widget == features[Watermark::Color].box ? Reasons::offersNothingElse()
+                                                    : Tab::greyReason(widget);
 }
 
 void WatermarkTab::explainTextInput()
