@@ -73,7 +73,11 @@ void ComboBinding::explain(QWidget *widget, const bOption *option, const Reasons
         const bool usable = box->model()->flags(box->model()->index(i, 0)) & Qt::ItemIsEnabled;
         const OptionChoice *choice =
             usable || !option ? nullptr : option->findChoiceByText(box->itemText(i));
-        ReasonTip::setItem(box, i, choice ? reasons.blocked(*choice) : QString());
+        QString reason = choice ? reasons.blocked(*choice) : QString();
+        // The items of a greyed box stay as they were when it was greyed.
+        if (!usable && reason.isEmpty())
+            reason = ReasonTip::of(box);
+        ReasonTip::setItem(box, i, reason);
     }
 }
 
