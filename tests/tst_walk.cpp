@@ -47,11 +47,9 @@ public:
     {
         known.clear();
         look("at first");
-        for (Tab *page : qAsConst(pages)) {
-            const WidgetMap bound = Page::boundTo(page);
-            for (const auto &[keyword, widget] : bound)
+        for (Tab *page : qAsConst(pages))
+            for (const auto &[keyword, widget] : Page::boundTo(page))
                 tryValues(page, keyword + " of " + currentStore->printerName(), widget);
-        }
     }
 
     QTableWidget *printers = findNamed<QTableWidget>(this, "tblPrinters");

@@ -21,7 +21,7 @@ void TestProfileRules::validity_data()
     addColumns<QString, QString, ProfileFault>("name", "description", "fault");
     addRow("none", "", "", ProfileFault::NoName);
     addRow("leading blank, single quotes and shell signs", " -rf Bob's “$(x)” & <b> \\n *", "",
-           true);
+           ProfileFault::None);
     addRow("hidden file", ".Draft", "", ProfileFault::Characters);
     addRow("dot inside", "Draft.cfg", "", ProfileFault::None);
     addRow("slash", "../Draft", "", ProfileFault::Characters);
