@@ -149,7 +149,10 @@ QString Reasons::nothingLeft(const bOption &option, const QString &left) const
         if (choices.size() == 2 && OptionLabels::isOff(*choices[off]))
             return ofSwitch(choices[off], choices[1 - off]);
     }
-    return tr("Only %1 is left.").arg(left) + QLatin1Char(lineFeed) + noneOf(choices);
+    const bool any = std::any_of(choices.cbegin(), choices.cend(),
+                                 [](const OptionChoice *choice) { return !choice->isBlocked(); });
+    return (any ? tr("Only %1 is left.").arg(left) + QLatin1Char(lineFeed) : QString()) +
+           noneOf(choices);
 }
 
 QString Reasons::noneOf(const QList<OptionChoice *> &choices) const
