@@ -75,6 +75,77 @@
     </message>
 </context>
 <context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Master</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Yellow</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Lightness</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL(hue, saturation and lightness)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Color balance</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Hue Adjustment</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Color levels</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Adjustment Settings</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modify</translation>
+    </message>
+</context>
+<context>
     <name>BixDialog</name>
     <message>
         <source>Brixola Press Desk</source>
@@ -134,6 +205,14 @@ Reloading list now.</translation>
         <source>See %1</source>
         <comment>pages with marks</comment>
         <translation>See %1</translation>
+    </message>
+    <message>
+        <source>The PPD of %1 can&apos;t be read.</source>
+        <translation>The PPD of %1 can&apos;t be read.</translation>
+    </message>
+    <message>
+        <source>Applying...</source>
+        <translation>Applying...</translation>
     </message>
 </context>
 <context>
@@ -229,6 +308,77 @@ Reloading list now.</translation>
     </message>
 </context>
 <context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Offset jobs</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Rotate copies</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Tri-Fold</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Bi-Fold</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Staple:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Punch</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Print side</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Direction of fold</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Number of sheets</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Staple location:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Staple method</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Punch Method:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finishing</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Separation</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Hole punch</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -303,77 +453,6 @@ Credentials and policies will be checked again during printing.
     <message>
         <source>You do not have permission to print.</source>
         <translation>You do not have permission to print.</translation>
-    </message>
-</context>
-<context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Off</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Offset jobs</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Rotate copies</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>On</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Tri-Fold</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Bi-Fold</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Staple:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Punch</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Print side</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Direction of fold</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Number of sheets</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Staple location:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Staple method</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Punch Method:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Finishing</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Separation</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Hole punch</translation>
     </message>
 </context>
 <context>
@@ -689,6 +768,25 @@ For example: %1</translation>
     </message>
 </context>
 <context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Adjustment Settings</translation>
+    </message>
+</context>
+<context>
     <name>NoticeLine</name>
     <message>
         <source>%1 %2 (%3)</source>
@@ -761,6 +859,14 @@ For example: %1</translation>
         <source>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</source>
         <translation>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</translation>
     </message>
+    <message>
+        <source>sudo wants your own password.</source>
+        <translation>sudo wants your own password.</translation>
+    </message>
+    <message>
+        <source>su wants the administrator&apos;s password (root).</source>
+        <translation>su wants the administrator&apos;s password (root).</translation>
+    </message>
 </context>
 <context>
     <name>PrinterStatus</name>
@@ -806,6 +912,26 @@ For example: %1</translation>
     <message>
         <source>Status</source>
         <translation>Status</translation>
+    </message>
+    <message>
+        <source>Select a printer.</source>
+        <translation>Select a printer.</translation>
+    </message>
+    <message>
+        <source>Asking...</source>
+        <translation>Asking...</translation>
+    </message>
+    <message>
+        <source>The print system (CUPS) does not answer, so no printer can be listed.</source>
+        <translation>The print system (CUPS) does not answer, so no printer can be listed.</translation>
+    </message>
+    <message>
+        <source>There is no Brixola printer yet. A print queue counts as one if it uses the PPD of a Brixola or NV-RATEX printer; a driverless one does not. Add the printer with that PPD in the print settings of your system or with lpadmin.</source>
+        <translation>There is no Brixola printer yet. A print queue counts as one if it uses the PPD of a Brixola or NV-RATEX printer; a driverless one does not. Add the printer with that PPD in the print settings of your system or with lpadmin.</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Look again</translation>
     </message>
 </context>
 <context>
@@ -1516,96 +1642,6 @@ For example: %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>There is no such text of your own.</translation>
-    </message>
-</context>
-<context>
-    <name>adjustmentDialog</name>
-    <message>
-        <source>Master</source>
-        <translation>Master</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Red</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Yellow</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Green</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Cyan</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Blue</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturation</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Lightness</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrast</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Custom</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL(hue, saturation and lightness)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Color balance</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Hue Adjustment</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Color levels</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Adjustment Settings</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modify</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Custom</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Brightness</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrast</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Adjustment Settings</translation>
     </message>
 </context>
 </TS>

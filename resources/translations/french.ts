@@ -75,6 +75,77 @@
     </message>
 </context>
 <context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>TSL (teinte, saturation et luminosité)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Balance des couleurs</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Réglage de la teinte</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Niveaux de couleur</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modifier</translation>
+    </message>
+</context>
+<context>
     <name>BixDialog</name>
     <message>
         <source>Brixola Press Desk</source>
@@ -134,6 +205,14 @@ La liste va être rechargée.</translation>
         <source>See %1</source>
         <comment>pages with marks</comment>
         <translation>Voir %1</translation>
+    </message>
+    <message>
+        <source>The PPD of %1 can&apos;t be read.</source>
+        <translation>Le PPD de %1 est illisible.</translation>
+    </message>
+    <message>
+        <source>Applying...</source>
+        <translation>Application en cours...</translation>
     </message>
 </context>
 <context>
@@ -229,6 +308,77 @@ La liste va être rechargée.</translation>
     </message>
 </context>
 <context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Décaler les travaux</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Pivoter les copies</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Pli en trois</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Pli en deux</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Agrafage:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforation</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Côté imprimé</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Sens du pli</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Nombre de feuilles</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Position d&apos;agrafage:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Type d&apos;agrafage</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Type de perforation:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finition</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Séparation</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforation</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -303,77 +453,6 @@ Les informations de connexion et les règles seront de nouveau vérifiées lors 
     <message>
         <source>You do not have permission to print.</source>
         <translation>Vous n&apos;êtes pas autorisé à imprimer.</translation>
-    </message>
-</context>
-<context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Désactivé</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Décaler les travaux</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Pivoter les copies</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Activé</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Pli en trois</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Pli en deux</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Agrafage:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Perforation</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Côté imprimé</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Sens du pli</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Nombre de feuilles</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Position d&apos;agrafage:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Type d&apos;agrafage</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Type de perforation:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Finition</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Séparation</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Perforation</translation>
     </message>
 </context>
 <context>
@@ -689,6 +768,25 @@ Par exemple : %1</translation>
     </message>
 </context>
 <context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Réglages</translation>
+    </message>
+</context>
+<context>
     <name>NoticeLine</name>
     <message>
         <source>%1 %2 (%3)</source>
@@ -761,6 +859,14 @@ Par exemple : %1</translation>
         <source>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</source>
         <translation>Le programme %1 est introuvable. Un administrateur doit l’installer dans un dossier du chemin de recherche de root, par exemple /usr/sbin.</translation>
     </message>
+    <message>
+        <source>sudo wants your own password.</source>
+        <translation>sudo demande votre propre mot de passe.</translation>
+    </message>
+    <message>
+        <source>su wants the administrator&apos;s password (root).</source>
+        <translation>su demande le mot de passe de l’administrateur (root).</translation>
+    </message>
 </context>
 <context>
     <name>PrinterStatus</name>
@@ -806,6 +912,26 @@ Par exemple : %1</translation>
     <message>
         <source>Status</source>
         <translation>État</translation>
+    </message>
+    <message>
+        <source>Select a printer.</source>
+        <translation>Sélectionnez une imprimante.</translation>
+    </message>
+    <message>
+        <source>Asking...</source>
+        <translation>Interrogation...</translation>
+    </message>
+    <message>
+        <source>The print system (CUPS) does not answer, so no printer can be listed.</source>
+        <translation>Le système d’impression (CUPS) ne répond pas ; aucune imprimante ne peut être affichée.</translation>
+    </message>
+    <message>
+        <source>There is no Brixola printer yet. A print queue counts as one if it uses the PPD of a Brixola or NV-RATEX printer; a driverless one does not. Add the printer with that PPD in the print settings of your system or with lpadmin.</source>
+        <translation>Il n’y a pas encore d’imprimante Brixola. Est reconnue toute file d’impression qui utilise le PPD d’une imprimante Brixola ou NV-RATEX ; une file sans pilote ne l’est pas. Ajoutez l’imprimante avec ce PPD dans les paramètres d’impression du système ou avec lpadmin.</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Rechercher à nouveau</translation>
     </message>
 </context>
 <context>
@@ -1516,96 +1642,6 @@ Par exemple : %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>Ce texte n&apos;est pas un des vôtres.</translation>
-    </message>
-</context>
-<context>
-    <name>adjustmentDialog</name>
-    <message>
-        <source>Master</source>
-        <translation>Général</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Rouge</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Jaune</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Vert</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Cyan</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Bleu</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturation</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Luminosité</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personnalisé</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>TSL (teinte, saturation et luminosité)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Balance des couleurs</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Réglage de la teinte</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Niveaux de couleur</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Réglages</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modifier</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Personnalisé</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Luminosité</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Réglages</translation>
     </message>
 </context>
 </TS>

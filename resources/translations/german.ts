@@ -75,6 +75,77 @@
     </message>
 </context>
 <context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Gesamt</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL (Farbton, Sättigung und Helligkeit)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Farbbalance</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Farbtonanpassung</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Farbanteile</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Anpassung</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Ändern</translation>
+    </message>
+</context>
+<context>
     <name>BixDialog</name>
     <message>
         <source>Brixola Press Desk</source>
@@ -134,6 +205,14 @@ Die Liste wird neu geladen.</translation>
         <source>See %1</source>
         <comment>pages with marks</comment>
         <translation>Siehe %1</translation>
+    </message>
+    <message>
+        <source>The PPD of %1 can&apos;t be read.</source>
+        <translation>Die PPD von %1 ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Applying...</source>
+        <translation>Wird angewendet...</translation>
     </message>
 </context>
 <context>
@@ -229,6 +308,77 @@ Die Liste wird neu geladen.</translation>
     </message>
 </context>
 <context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Aufträge versetzen</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Kopien drehen</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Dreifachfalz</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Einfachfalz</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Heften:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Lochen</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Druckseite</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Falzrichtung</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Anzahl der Blätter</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Heftposition:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Heftart</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Lochungsart:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finishing</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Trennung</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Lochen</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -303,77 +453,6 @@ Anmeldedaten und Richtlinien werden beim Drucken erneut geprüft.
     <message>
         <source>You do not have permission to print.</source>
         <translation>Sie sind nicht zum Drucken berechtigt.</translation>
-    </message>
-</context>
-<context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Aus</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Aufträge versetzen</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Kopien drehen</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Ein</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Dreifachfalz</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Einfachfalz</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Heften:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Lochen</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Druckseite</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Falzrichtung</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Anzahl der Blätter</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Heftposition:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Heftart</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Lochungsart:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Finishing</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Trennung</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Lochen</translation>
     </message>
 </context>
 <context>
@@ -689,6 +768,25 @@ Zum Beispiel: %1</translation>
     </message>
 </context>
 <context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Anpassung</translation>
+    </message>
+</context>
+<context>
     <name>NoticeLine</name>
     <message>
         <source>%1 %2 (%3)</source>
@@ -761,6 +859,14 @@ Zum Beispiel: %1</translation>
         <source>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</source>
         <translation>Das Programm %1 fehlt. Ein Administrator muss es in einem Ordner aus dem Suchpfad von root installieren, etwa in /usr/sbin.</translation>
     </message>
+    <message>
+        <source>sudo wants your own password.</source>
+        <translation>sudo verlangt Ihr eigenes Passwort.</translation>
+    </message>
+    <message>
+        <source>su wants the administrator&apos;s password (root).</source>
+        <translation>su verlangt das Passwort des Administrators (root).</translation>
+    </message>
 </context>
 <context>
     <name>PrinterStatus</name>
@@ -806,6 +912,26 @@ Zum Beispiel: %1</translation>
     <message>
         <source>Status</source>
         <translation>Status</translation>
+    </message>
+    <message>
+        <source>Select a printer.</source>
+        <translation>Wählen Sie einen Drucker aus.</translation>
+    </message>
+    <message>
+        <source>Asking...</source>
+        <translation>Wird abgefragt...</translation>
+    </message>
+    <message>
+        <source>The print system (CUPS) does not answer, so no printer can be listed.</source>
+        <translation>Das Drucksystem (CUPS) antwortet nicht; daher können keine Drucker aufgeführt werden.</translation>
+    </message>
+    <message>
+        <source>There is no Brixola printer yet. A print queue counts as one if it uses the PPD of a Brixola or NV-RATEX printer; a driverless one does not. Add the printer with that PPD in the print settings of your system or with lpadmin.</source>
+        <translation>Es gibt noch keinen Brixola-Drucker. Als solcher zählt eine Druckerwarteschlange, die die PPD eines Druckers von Brixola oder NV-RATEX verwendet; eine treiberlose zählt nicht. Fügen Sie den Drucker mit dieser PPD in den Druckeinstellungen Ihres Systems oder mit lpadmin hinzu.</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Erneut suchen</translation>
     </message>
 </context>
 <context>
@@ -1516,96 +1642,6 @@ Zum Beispiel: %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>Diesen Text haben Sie nicht angelegt.</translation>
-    </message>
-</context>
-<context>
-    <name>adjustmentDialog</name>
-    <message>
-        <source>Master</source>
-        <translation>Gesamt</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Rot</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Gelb</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Grün</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Cyan</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Blau</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Sättigung</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Helligkeit</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Kontrast</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Benutzerdefiniert</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL (Farbton, Sättigung und Helligkeit)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Farbbalance</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Farbtonanpassung</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Farbanteile</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Anpassung</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Ändern</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Benutzerdefiniert</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Helligkeit</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Kontrast</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Anpassung</translation>
     </message>
 </context>
 </TS>

@@ -75,6 +75,77 @@
     </message>
 </context>
 <context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rosso</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Giallo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Ciano</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blu</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturazione</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosità</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrasto</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizzato</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL (tonalità, saturazione e luminosità)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Bilanciamento colore</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Regolazione tonalità</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Livelli di colore</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Impostazioni di regolazione</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modifica</translation>
+    </message>
+</context>
+<context>
     <name>BixDialog</name>
     <message>
         <source>Brixola Press Desk</source>
@@ -134,6 +205,14 @@ L&apos;elenco viene ricaricato.</translation>
         <source>See %1</source>
         <comment>pages with marks</comment>
         <translation>Vedere %1</translation>
+    </message>
+    <message>
+        <source>The PPD of %1 can&apos;t be read.</source>
+        <translation>Il PPD di %1 non è leggibile.</translation>
+    </message>
+    <message>
+        <source>Applying...</source>
+        <translation>Applicazione in corso...</translation>
     </message>
 </context>
 <context>
@@ -229,6 +308,77 @@ L&apos;elenco viene ricaricato.</translation>
     </message>
 </context>
 <context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Sfalsa lavori</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Ruota copie</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Attivato</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Piega in tre</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Piega in due</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Pinzatura:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforazione</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Lato di stampa</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Direzione di piega</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Numero di fogli</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Posizione di pinzatura:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Tipo di pinzatura</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Tipo di perforazione:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finitura</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Separazione</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforazione</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -303,77 +453,6 @@ Le credenziali e i criteri verranno verificati di nuovo durante la stampa.
     <message>
         <source>You do not have permission to print.</source>
         <translation>Non si dispone dell&apos;autorizzazione per stampare.</translation>
-    </message>
-</context>
-<context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Disattivato</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Sfalsa lavori</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Ruota copie</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Attivato</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Piega in tre</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Piega in due</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Pinzatura:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Perforazione</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Lato di stampa</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Direzione di piega</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Numero di fogli</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Posizione di pinzatura:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Tipo di pinzatura</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Tipo di perforazione:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Finitura</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Separazione</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Perforazione</translation>
     </message>
 </context>
 <context>
@@ -689,6 +768,25 @@ Ad esempio: %1</translation>
     </message>
 </context>
 <context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizzato</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosità</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrasto</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Impostazioni di regolazione</translation>
+    </message>
+</context>
+<context>
     <name>NoticeLine</name>
     <message>
         <source>%1 %2 (%3)</source>
@@ -761,6 +859,14 @@ Ad esempio: %1</translation>
         <source>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</source>
         <translation>Manca il programma %1. Un amministratore deve installarlo in una cartella del percorso di ricerca di root, ad esempio /usr/sbin.</translation>
     </message>
+    <message>
+        <source>sudo wants your own password.</source>
+        <translation>sudo richiede la propria password.</translation>
+    </message>
+    <message>
+        <source>su wants the administrator&apos;s password (root).</source>
+        <translation>su richiede la password dell&apos;amministratore (root).</translation>
+    </message>
 </context>
 <context>
     <name>PrinterStatus</name>
@@ -806,6 +912,26 @@ Ad esempio: %1</translation>
     <message>
         <source>Status</source>
         <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Select a printer.</source>
+        <translation>Selezionare una stampante.</translation>
+    </message>
+    <message>
+        <source>Asking...</source>
+        <translation>Richiesta in corso...</translation>
+    </message>
+    <message>
+        <source>The print system (CUPS) does not answer, so no printer can be listed.</source>
+        <translation>Il sistema di stampa (CUPS) non risponde: nessuna stampante può essere elencata.</translation>
+    </message>
+    <message>
+        <source>There is no Brixola printer yet. A print queue counts as one if it uses the PPD of a Brixola or NV-RATEX printer; a driverless one does not. Add the printer with that PPD in the print settings of your system or with lpadmin.</source>
+        <translation>Non c&apos;è ancora nessuna stampante Brixola. È riconosciuta come tale una coda di stampa che usa il PPD di una stampante Brixola o NV-RATEX; una coda senza driver non lo è. Aggiungere la stampante con quel PPD nelle impostazioni di stampa del sistema o con lpadmin.</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Cerca di nuovo</translation>
     </message>
 </context>
 <context>
@@ -1516,96 +1642,6 @@ Ad esempio: %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>Questo testo non è tra i propri.</translation>
-    </message>
-</context>
-<context>
-    <name>adjustmentDialog</name>
-    <message>
-        <source>Master</source>
-        <translation>Generale</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Rosso</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Giallo</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Verde</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Ciano</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Blu</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturazione</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Luminosità</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrasto</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizzato</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL (tonalità, saturazione e luminosità)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Bilanciamento colore</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Regolazione tonalità</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Livelli di colore</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Impostazioni di regolazione</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modifica</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizzato</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Luminosità</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrasto</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Impostazioni di regolazione</translation>
     </message>
 </context>
 </TS>

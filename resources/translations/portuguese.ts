@@ -75,6 +75,77 @@
     </message>
 </context>
 <context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Vermelho</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarelo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Ciano</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturação</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosidade</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL (matiz, saturação e luminosidade)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Balanço de cores</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Ajuste de matiz</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Níveis de cor</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Definições de ajuste</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modificar</translation>
+    </message>
+</context>
+<context>
     <name>BixDialog</name>
     <message>
         <source>Brixola Press Desk</source>
@@ -134,6 +205,14 @@ A lista vai ser recarregada.</translation>
         <source>See %1</source>
         <comment>pages with marks</comment>
         <translation>Ver %1</translation>
+    </message>
+    <message>
+        <source>The PPD of %1 can&apos;t be read.</source>
+        <translation>Não é possível ler o PPD de %1.</translation>
+    </message>
+    <message>
+        <source>Applying...</source>
+        <translation>A aplicar...</translation>
     </message>
 </context>
 <context>
@@ -229,6 +308,77 @@ A lista vai ser recarregada.</translation>
     </message>
 </context>
 <context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Desativado</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Deslocar trabalhos</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Girar cópias</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ativado</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Dobra em três</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Dobra ao meio</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Agrafamento:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perfuração</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Lado de impressão</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Direção da dobra</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Número de folhas</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Posição do agrafo:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Tipo de agrafamento</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Tipo de perfuração:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Acabamento</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Separação</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perfuração</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -303,77 +453,6 @@ As credenciais e as políticas serão verificadas novamente durante a impressão
     <message>
         <source>You do not have permission to print.</source>
         <translation>Não tem permissão para imprimir.</translation>
-    </message>
-</context>
-<context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Desativado</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Deslocar trabalhos</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Girar cópias</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Ativado</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Dobra em três</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Dobra ao meio</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Agrafamento:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Perfuração</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Lado de impressão</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Direção da dobra</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Número de folhas</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Posição do agrafo:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Tipo de agrafamento</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Tipo de perfuração:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Acabamento</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Separação</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Perfuração</translation>
     </message>
 </context>
 <context>
@@ -689,6 +768,25 @@ Por exemplo: %1</translation>
     </message>
 </context>
 <context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brilho</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Definições de ajuste</translation>
+    </message>
+</context>
+<context>
     <name>NoticeLine</name>
     <message>
         <source>%1 %2 (%3)</source>
@@ -761,6 +859,14 @@ Por exemplo: %1</translation>
         <source>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</source>
         <translation>Falta o programa %1. Um administrador tem de o instalar numa pasta do caminho de procura de root, por exemplo /usr/sbin.</translation>
     </message>
+    <message>
+        <source>sudo wants your own password.</source>
+        <translation>O sudo pede a sua própria palavra-passe.</translation>
+    </message>
+    <message>
+        <source>su wants the administrator&apos;s password (root).</source>
+        <translation>O su pede a palavra-passe do administrador (root).</translation>
+    </message>
 </context>
 <context>
     <name>PrinterStatus</name>
@@ -806,6 +912,26 @@ Por exemplo: %1</translation>
     <message>
         <source>Status</source>
         <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Select a printer.</source>
+        <translation>Selecione uma impressora.</translation>
+    </message>
+    <message>
+        <source>Asking...</source>
+        <translation>A consultar...</translation>
+    </message>
+    <message>
+        <source>The print system (CUPS) does not answer, so no printer can be listed.</source>
+        <translation>O sistema de impressão (CUPS) não responde; não é possível listar impressoras.</translation>
+    </message>
+    <message>
+        <source>There is no Brixola printer yet. A print queue counts as one if it uses the PPD of a Brixola or NV-RATEX printer; a driverless one does not. Add the printer with that PPD in the print settings of your system or with lpadmin.</source>
+        <translation>Ainda não há nenhuma impressora Brixola. É reconhecida como tal uma fila de impressão que use o PPD de uma impressora Brixola ou NV-RATEX; uma fila sem controlador não o é. Adicione a impressora com esse PPD nas definições de impressão do sistema ou com lpadmin.</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Procurar de novo</translation>
     </message>
 </context>
 <context>
@@ -1516,96 +1642,6 @@ Por exemplo: %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>Este texto não é seu.</translation>
-    </message>
-</context>
-<context>
-    <name>adjustmentDialog</name>
-    <message>
-        <source>Master</source>
-        <translation>Geral</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Vermelho</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Amarelo</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Verde</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Ciano</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Azul</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturação</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Luminosidade</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizado</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL (matiz, saturação e luminosidade)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Balanço de cores</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Ajuste de matiz</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Níveis de cor</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Definições de ajuste</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modificar</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizado</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Brilho</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Definições de ajuste</translation>
     </message>
 </context>
 </TS>

@@ -75,6 +75,77 @@
     </message>
 </context>
 <context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarillo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cian</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosidad</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL (tono, saturación y luminosidad)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Balance de color</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Ajuste de tono</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Niveles de color</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Parámetros de ajuste</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modificar</translation>
+    </message>
+</context>
+<context>
     <name>BixDialog</name>
     <message>
         <source>Brixola Press Desk</source>
@@ -134,6 +205,14 @@ Se volverá a cargar la lista.</translation>
         <source>See %1</source>
         <comment>pages with marks</comment>
         <translation>Vea %1</translation>
+    </message>
+    <message>
+        <source>The PPD of %1 can&apos;t be read.</source>
+        <translation>No se puede leer el PPD de %1.</translation>
+    </message>
+    <message>
+        <source>Applying...</source>
+        <translation>Aplicando...</translation>
     </message>
 </context>
 <context>
@@ -229,6 +308,77 @@ Se volverá a cargar la lista.</translation>
     </message>
 </context>
 <context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Desplazar trabajos</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Girar copias</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Plegado en tres</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Plegado en dos</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Grapado:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforación</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Cara de impresión</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Dirección del pliegue</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Número de hojas</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Posición de la grapa:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Tipo de grapado</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Tipo de perforación:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Acabado</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Separación</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforación</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -303,77 +453,6 @@ Las credenciales y las directivas se volverán a comprobar durante la impresión
     <message>
         <source>You do not have permission to print.</source>
         <translation>No tiene permiso para imprimir.</translation>
-    </message>
-</context>
-<context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Desactivado</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Desplazar trabajos</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Girar copias</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Activado</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Plegado en tres</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Plegado en dos</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Grapado:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Perforación</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Cara de impresión</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Dirección del pliegue</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Número de hojas</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Posición de la grapa:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Tipo de grapado</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Tipo de perforación:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Acabado</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Separación</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Perforación</translation>
     </message>
 </context>
 <context>
@@ -689,6 +768,25 @@ Por ejemplo: %1</translation>
     </message>
 </context>
 <context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Parámetros de ajuste</translation>
+    </message>
+</context>
+<context>
     <name>NoticeLine</name>
     <message>
         <source>%1 %2 (%3)</source>
@@ -761,6 +859,14 @@ Por ejemplo: %1</translation>
         <source>The program %1 is missing. An administrator has to install it in a folder of root&apos;s search path, such as /usr/sbin.</source>
         <translation>Falta el programa %1. Un administrador debe instalarlo en una carpeta de la ruta de búsqueda de root, por ejemplo /usr/sbin.</translation>
     </message>
+    <message>
+        <source>sudo wants your own password.</source>
+        <translation>sudo pide su propia contraseña.</translation>
+    </message>
+    <message>
+        <source>su wants the administrator&apos;s password (root).</source>
+        <translation>su pide la contraseña del administrador (root).</translation>
+    </message>
 </context>
 <context>
     <name>PrinterStatus</name>
@@ -806,6 +912,26 @@ Por ejemplo: %1</translation>
     <message>
         <source>Status</source>
         <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Select a printer.</source>
+        <translation>Seleccione una impresora.</translation>
+    </message>
+    <message>
+        <source>Asking...</source>
+        <translation>Consultando...</translation>
+    </message>
+    <message>
+        <source>The print system (CUPS) does not answer, so no printer can be listed.</source>
+        <translation>El sistema de impresión (CUPS) no responde; no se puede mostrar ninguna impresora.</translation>
+    </message>
+    <message>
+        <source>There is no Brixola printer yet. A print queue counts as one if it uses the PPD of a Brixola or NV-RATEX printer; a driverless one does not. Add the printer with that PPD in the print settings of your system or with lpadmin.</source>
+        <translation>Todavía no hay ninguna impresora Brixola. Se reconoce como tal una cola de impresión que use el PPD de una impresora Brixola o NV-RATEX; una cola sin controlador, no. Agregue la impresora con ese PPD en los ajustes de impresión del sistema o con lpadmin.</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Buscar de nuevo</translation>
     </message>
 </context>
 <context>
@@ -1516,96 +1642,6 @@ Por ejemplo: %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>Este texto no es suyo.</translation>
-    </message>
-</context>
-<context>
-    <name>adjustmentDialog</name>
-    <message>
-        <source>Master</source>
-        <translation>General</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Rojo</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Amarillo</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Verde</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Cian</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Azul</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturación</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Luminosidad</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizado</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL (tono, saturación y luminosidad)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Balance de color</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Ajuste de tono</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Niveles de color</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Parámetros de ajuste</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modificar</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizado</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Brillo</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Parámetros de ajuste</translation>
     </message>
 </context>
 </TS>

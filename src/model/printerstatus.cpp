@@ -1,19 +1,17 @@
 #include "model/printerstatus.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QHash>
+#include <QSocketNotifier>
+#include <QTimer>
 
 #include <algorithm>
 #include <cerrno>
-#include <deque>
-#include <poll.h>
 #include <unistd.h>
 
 namespace {
 
 // More at once make the scheduler refuse connections, and are no faster.
-constexpr size_t mostPipes = 8;
+constexpr int mostCalls = 8;
 constexpr int longestWait = 5000; // ms
 constexpr int longestOutput = 1023;
 
@@ -54,47 +52,6 @@ QByteArray statusCommand(const QString &queue)
     return command + '"';
 }
 
-/// A call under way.
-struct Call
-{
-    std::FILE *stream = nullptr;
-    QElapsedTimer running;
-};
-
-Call start(const QString &queue)
-{
-    Call call;
-    call.running.start();
-    call.stream = popen(statusCommand(queue).constData(), "re");
-    return call;
-}
-
-/// Reads to the end of the output, keeping its beginning without line feeds. False if the call has
-/// no end in time, or can't be read.
-bool readToEnd(const Call &call, QByteArray *output)
-{
-    const int descriptor = fileno(call.stream);
-    int taken = 0;
-    for (;;) {
-        const int left = std::max(0, longestWait - int(call.running.elapsed()));
-        pollfd waiting = {descriptor, POLLIN, 0};
-        const int ready = poll(&waiting, 1, left);
-        if (ready < 0 && errno == EINTR)
-            continue;
-        if (ready <= 0)
-            return false;
-        char buffer[1024];
-        const ssize_t got = read(descriptor, buffer, sizeof buffer);
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got <= 0)
-            return got == 0;
-        const int kept = std::min(int(got), longestOutput - taken);
-        output->append(buffer, kept);
-        taken += kept;
-    }
-}
-
 } // namespace
 
 QString statusFromOutput(const QString &output)
@@ -108,42 +65,110 @@ QString statusFromOutput(const QString &output)
     return output;
 }
 
-QStringList PrinterStatusReader::statuses(const QStringList &queues)
+/// A call under way.
+class PrinterStatusReader::Call : public QObject
 {
-    // A queue may have several rows; one call serves them all.
-    QStringList toAsk;
-    for (const QString &queue : queues) {
-        if (!unresponsive_.contains(queue) && !toAsk.contains(queue))
-            toAsk.append(queue);
+public:
+    Call(const QString &queue, std::FILE *stream, QObject *parent)
+        : QObject(parent)
+        , queue(queue)
+        , stream(stream)
+        , notifier(fileno(stream), QSocketNotifier::Read, this)
+    {
+        limit.setSingleShot(true);
+        limit.start(longestWait);
     }
 
-    QHash<QString, QString> answers;
-    std::deque<Call> calls;
-    int started = 0;
-    for (const QString &queue : qAsConst(toAsk)) {
-        while (started < toAsk.size() && calls.size() < mostPipes)
-            calls.push_back(start(toAsk[started++]));
-        const Call call = calls.front();
-        calls.pop_front();
-        if (!call.stream)
-            continue;
-        QByteArray output;
-        if (readToEnd(call, &output)) {
-            pclose(call.stream);
-            answers.insert(queue, statusFromOutput(QString::fromUtf8(output.replace('\n', ""))));
-        } else {
-            abandoned_.push_back(call.stream);
-            unresponsive_.insert(queue);
-        }
-    }
+    QString queue;
+    std::FILE *stream;
+    QByteArray output; ///< its beginning
+    QSocketNotifier notifier;
+    QTimer limit;
+    bool isStale = false; ///< its answer is of no use any more
+};
 
-    QStringList texts;
-    for (const QString &queue : queues)
-        texts.append(answers.value(queue, failureText()));
-    return texts;
+PrinterStatusReader::PrinterStatusReader(QObject *parent)
+    : QObject(parent)
+{
 }
 
-QString printerStatus(const QString &queue)
+// What is still running is left alone: pclose() would wait for it.
+PrinterStatusReader::~PrinterStatusReader() = default;
+
+void PrinterStatusReader::ask(const QStringList &queues)
 {
-    return PrinterStatusReader().statuses({queue}).first();
+    // A queue may have several rows; one call serves them all.
+    for (const QString &queue : queues) {
+        if (!unresponsive_.contains(queue) && !isAsking(queue))
+            waiting_.append(queue);
+    }
+    startCalls();
+}
+
+bool PrinterStatusReader::isAsking(const QString &queue) const
+{
+    return waiting_.contains(queue) ||
+           std::any_of(calls_.begin(), calls_.end(), [&queue](const Call *call) {
+               return call->queue == queue && !call->isStale;
+           });
+}
+
+void PrinterStatusReader::startOver()
+{
+    unresponsive_.clear();
+    waiting_.clear();
+    for (Call *call : qAsConst(calls_))
+        call->isStale = true;
+}
+
+void PrinterStatusReader::startCalls()
+{
+    while (calls_.size() < mostCalls && !waiting_.isEmpty())
+        start(waiting_.takeFirst());
+}
+
+void PrinterStatusReader::start(const QString &queue)
+{
+    std::FILE *stream = popen(statusCommand(queue).constData(), "re");
+    if (!stream) {
+        emit answered(queue, failureText());
+        return;
+    }
+    auto *call = new Call(queue, stream, this);
+    calls_.append(call);
+    connect(&call->notifier, &QSocketNotifier::activated, this, [this, call] { read(call); });
+    connect(&call->limit, &QTimer::timeout, this, [this, call] { giveUp(call); });
+}
+
+void PrinterStatusReader::read(Call *call)
+{
+    char buffer[1024];
+    const ssize_t got = ::read(fileno(call->stream), buffer, sizeof buffer);
+    if (got > 0) {
+        call->output.append(buffer, std::min(int(got), longestOutput - call->output.size()));
+    } else if (got == 0) {
+        pclose(call->stream);
+        finish(call, statusFromOutput(QString::fromUtf8(call->output.replace('\n', ""))));
+    } else if (errno != EINTR) { // after which it is told of again
+        giveUp(call);
+    }
+}
+
+void PrinterStatusReader::giveUp(Call *call)
+{
+    abandoned_.push_back(call->stream);
+    if (!call->isStale)
+        unresponsive_.insert(call->queue);
+    finish(call, failureText());
+}
+
+void PrinterStatusReader::finish(Call *call, const QString &status)
+{
+    call->notifier.setEnabled(false);
+    call->limit.stop();
+    calls_.removeOne(call);
+    call->deleteLater(); // one of its parts has sent the signal that led here
+    startCalls();
+    if (!call->isStale)
+        emit answered(call->queue, status);
 }

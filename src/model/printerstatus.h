@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QList>
+#include <QObject>
 #include <QSet>
 #include <QStringList>
 
@@ -10,28 +12,42 @@
 /// the six languages that the panel speaks are known. Text with none of them comes back as it is.
 QString statusFromOutput(const QString &output);
 
-/// Asks `lpstat` for the status of queues, several at a time.
+/// Asks `lpstat` for the status of queues, several at a time, and tells the answers as the event
+/// loop brings them.
 ///
-/// The calls run through a shell and block until all have ended. One that has no end after five
-/// seconds is given up: it counts as failed, and its queue isn't asked again until startOver().
-class PrinterStatusReader
+/// The calls run through a shell. One that has no end after five seconds is given up: it counts as
+/// failed, and its queue isn't asked again until startOver().
+class PrinterStatusReader : public QObject
 {
-public:
-    PrinterStatusReader() = default;
-    PrinterStatusReader(const PrinterStatusReader &) = delete;
-    PrinterStatusReader &operator=(const PrinterStatusReader &) = delete;
+    Q_OBJECT
 
-    /// One text for each queue, in the same order.
-    QStringList statuses(const QStringList &queues);
-    /// Asks every queue again from now on.
-    void startOver() { unresponsive_.clear(); }
+public:
+    explicit PrinterStatusReader(QObject *parent = nullptr);
+    ~PrinterStatusReader() override;
+
+    /// Asks for each of the queues, in their order; one that is being asked for is not asked twice.
+    void ask(const QStringList &queues);
+    /// Forgets what is not answered, and asks every queue again from now on.
+    void startOver();
+
+signals:
+    /// The status; an error text if no shell can be started or `lpstat` doesn't end, and empty if
+    /// there is no `lpstat`.
+    void answered(const QString &queue, const QString &status);
 
 private:
+    class Call;
+
+    bool isAsking(const QString &queue) const;
+    void startCalls();
+    void start(const QString &queue);
+    void read(Call *call);
+    void giveUp(Call *call);
+    void finish(Call *call, const QString &status);
+
+    QStringList waiting_; ///< queues to ask when a call has ended
+    QList<Call *> calls_; ///< under way; children
     QSet<QString> unresponsive_;
     /// Streams of calls without an end. pclose() would wait for them, so they stay open.
     std::vector<std::FILE *> abandoned_;
 };
-
-/// The status of one queue; an error text if no shell can be started or `lpstat` doesn't end, and
-/// empty if there is no `lpstat`.
-QString printerStatus(const QString &queue);

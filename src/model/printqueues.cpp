@@ -34,10 +34,12 @@ QString text(ipp_attribute_t *attribute)
 
 } // namespace
 
-QList<PrintQueue> printQueues()
+QList<PrintQueue> printQueues(bool *answered)
 {
     QList<PrintQueue> queues;
     const Ipp answer = getPrinters();
+    if (answered)
+        *answered = answer != nullptr;
     if (!answer)
         return queues;
 

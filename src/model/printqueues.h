@@ -15,12 +15,13 @@ struct PrintQueue
 /// makers too. Written by the Printer page alone.
 extern QSet<QString> knownPrinters;
 
-/// All queues of the scheduler, by name as cupsGetDests() sorts them; empty if it doesn't answer.
+/// All queues of the scheduler, by name as cupsGetDests() sorts them; empty if it doesn't answer,
+/// and `answered`, if it is given, tells the two apart.
 ///
 /// Asks for names and addresses only (CUPS-Get-Printers): this runs after nearly every click, and
 /// cupsGetDests() would also look round the network for printers that have no queue here, and no
 /// PPD, for a quarter of a second.
-QList<PrintQueue> printQueues();
+QList<PrintQueue> printQueues(bool *answered = nullptr);
 QSet<QString> queueNames();
 /// Whether the scheduler answers at all.
 bool isPrintSystemReachable();

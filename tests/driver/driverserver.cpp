@@ -5,12 +5,13 @@
 #include "windowstate.h"
 
 #include <QAbstractEventDispatcher>
+#include <QApplication>
 #include <QCursor>
-#include <QGuiApplication>
 #include <QLocalSocket>
 #include <QProcess>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QSocketNotifier>
 #include <QThread>
 #include <QTimer>
 #include <QWidget>
@@ -29,8 +30,25 @@ int loopLevel()
     return QThread::currentThread()->loopLevel();
 }
 
+/// Whether the panel has a command at work: it shows so by its pointer, or the status of a printer
+/// is due.
+bool isWaitingForCommand()
+{
+    if (QGuiApplication::overrideCursor())
+        return true;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget *window : windows) {
+        const auto notifiers = window->findChildren<QSocketNotifier *>();
+        for (const QSocketNotifier *notifier : notifiers)
+            if (notifier->isEnabled())
+                return true;
+    }
+    return false;
+}
+
 constexpr int quietRoundsWanted = 2;
 constexpr int maxRounds = 3000;
+constexpr int patienceMs = 1000; // longer than a command takes that is well
 
 } // namespace
 
@@ -65,7 +83,7 @@ void DriverServer::handle(const QString &line)
 {
     const QStringList words = QProcess::splitCommand(line);
     if (words.value(0) == "state") {
-        sendStateWhenIdle(0, maxRounds);
+        sendStateWhenIdle(0, maxRounds, QDeadlineTimer(patienceMs));
     } else if (words.value(0) == "ask") {
         const QWidget *widget = findWidget(words.value(1));
         if (widget)
@@ -82,7 +100,8 @@ void DriverServer::handle(const QString &line)
     }
 }
 
-void DriverServer::sendStateWhenIdle(int quietRounds, int roundsLeft)
+void DriverServer::sendStateWhenIdle(int quietRounds, int roundsLeft,
+                                     const QDeadlineTimer &patience)
 {
     if (quietRounds == quietRoundsWanted) {
         send("ok", windowState());
@@ -91,9 +110,11 @@ void DriverServer::sendStateWhenIdle(int quietRounds, int roundsLeft)
     } else {
         QTimer::singleShot(roundMs(), this, [=] {
             // Events run between the keys of a step too.
-            const bool acting = m_actionLevel == loopLevel();
+            const bool acting =
+                m_actionLevel == loopLevel() || (!patience.hasExpired() && isWaitingForCommand());
             const bool busy = acting || QAbstractEventDispatcher::instance()->hasPendingEvents();
-            sendStateWhenIdle(busy ? 0 : quietRounds + 1, acting ? roundsLeft : roundsLeft - 1);
+            sendStateWhenIdle(busy ? 0 : quietRounds + 1, acting ? roundsLeft : roundsLeft - 1,
+                              patience);
         });
     }
 }

@@ -2,6 +2,7 @@
 
 #include "windowactivator.h"
 
+#include <QDeadlineTimer>
 #include <QLocalServer>
 #include <QObject>
 #include <QPointer>
@@ -14,7 +15,8 @@ class QLocalSocket;
 /// A line is a step of useractions.h, "ask WIDGET PROPERTY", or "state". An answer is "ok" or
 /// "error: REASON", then lines of its own, then a line with a single dot. "state" is answered when
 /// the panel has come to rest, with the lines of windowState(); a step is answered before it acts.
-/// The panel is at rest when the step is through, or stays in the event loop of a dialog.
+/// The panel is at rest when the step is through, or stays in the event loop of a dialog. What it
+/// waits for itself, and shows that it does, is waited for too, though not for long.
 class DriverServer : public QObject
 {
     Q_OBJECT
@@ -26,7 +28,7 @@ private:
     void acceptClient();
     void readLines();
     void handle(const QString &line);
-    void sendStateWhenIdle(int quietRounds, int roundsLeft);
+    void sendStateWhenIdle(int quietRounds, int roundsLeft, const QDeadlineTimer &patience);
     void send(const QString &outcome, const QStringList &lines = {});
 
     QLocalServer m_server;

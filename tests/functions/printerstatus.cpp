@@ -27,6 +27,23 @@ private:
     const QByteArray outerPath = qgetenv("PATH");
 };
 
+/// The answers by queue, when one for each is there.
+QMap<QString, QString> answers(PrinterStatusReader *reader, const QStringList &queues)
+{
+    QMap<QString, QString> answers;
+    QEventLoop loop;
+    QObject::connect(reader, &PrinterStatusReader::answered, &loop,
+                     [&](const QString &queue, const QString &status) {
+                         answers.insert(queue, status);
+                         if (answers.size() == queues.size())
+                             loop.quit();
+                     });
+    QTimer::singleShot(10000, &loop, &QEventLoop::quit);
+    reader->ask(queues);
+    loop.exec();
+    return answers;
+}
+
 } // namespace
 
 class TestPrinterStatus : public QObject
@@ -38,6 +55,7 @@ private slots:
     void words();
     void manyQueues();
     void strangeAnswers();
+    void answersBeforeStartOver();
 };
 
 void TestPrinterStatus::words_data()
@@ -86,12 +104,15 @@ void TestPrinterStatus::manyQueues()
     const FakeLpstat lpstat(": > working.$$; echo working.* | wc -w >> counts\n"
                             "[ \"$name\" = q0 ] && sleep 0.3; sleep 0.03; rm working.$$\n"
                             "echo \"status of $name\"\n");
-    QStringList queues, expected;
-    for (int i = 0; i <= 40; ++i) { // the last a second row of the first
-        queues.append(QStringLiteral("q%1").arg(i % 40));
-        expected.append("status of " + queues.last());
+    QStringList queues;
+    QMap<QString, QString> expected;
+    for (int i = 0; i < 40; ++i) {
+        queues.append(QStringLiteral("q%1").arg(i));
+        expected.insert(queues.last(), "status of " + queues.last());
     }
-    QCOMPARE(PrinterStatusReader().statuses(queues), expected);
+    PrinterStatusReader reader;
+    reader.ask(queues); // rows of the same queues wait for the same calls
+    QCOMPARE(answers(&reader, queues), expected);
     int most = 0;
     const QByteArrayList counts = fileText(lpstat.directory.filePath("counts")).split('\n');
     QCOMPARE(counts.size(), 40 + 1);
@@ -113,9 +134,32 @@ void TestPrinterStatus::strangeAnswers()
                             "*) echo \"printer $name is idle.\" ;;\n"
                             "esac\n");
     const QString cut(1023, 'x');
-    QCOMPARE(PrinterStatusReader().statuses(
-                 {"chatty", "late", "lines", "binary", "fails", "closes", "fine"}),
-             QStringList({cut, cut, "onetwo", "Idle", QString(), QString(), "Idle"}));
+    PrinterStatusReader reader;
+    QCOMPARE(answers(&reader, {"chatty", "late", "lines", "binary", "fails", "closes", "fine"}),
+             (QMap<QString, QString>{{"chatty", cut},
+                                     {"late", cut},
+                                     {"lines", "onetwo"},
+                                     {"binary", "Idle"},
+                                     {"fails", QString()},
+                                     {"closes", QString()},
+                                     {"fine", "Idle"}}));
+}
+
+// An answer from before startOver() may be out of date: the one after it counts.
+void TestPrinterStatus::answersBeforeStartOver()
+{
+    const FakeLpstat lpstat("[ -e second ] || { : > second; sleep 0.3; echo old; exit; }\n"
+                            "echo new\n");
+    PrinterStatusReader reader;
+    QStringList heard;
+    connect(&reader, &PrinterStatusReader::answered, this,
+            [&heard](const QString &, const QString &status) { heard.append(status); });
+    reader.ask({"P1"});
+    QTRY_VERIFY(QFile::exists(lpstat.directory.filePath("second")));
+    reader.startOver();
+    reader.ask({"P1"});
+    QTest::qWait(600);
+    QCOMPARE(heard, QStringList("new"));
 }
 
 static const FunctionTests::Entry<TestPrinterStatus> entry;

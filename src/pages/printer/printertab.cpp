@@ -34,6 +34,7 @@ enum Column
 
 constexpr int emptyColumnWidth = 186;
 constexpr int warningColumn = 3;
+constexpr int hintRow = 998; // below all options
 
 void setCell(QTableWidget *table, int row, Column column, const QString &text)
 {
@@ -45,7 +46,9 @@ void setCell(QTableWidget *table, int row, Column column, const QString &text)
 PrinterTab::PrinterTab(PanelDialog *dialog)
     : Tab(dialog,
           {QT_TRANSLATE_NOOP("PrinterTab", "Printer"), ":/icons/tab-printer", PageHead::Always})
+    , statusReader(new PrinterStatusReader(this))
 {
+    connect(statusReader, &PrinterStatusReader::answered, this, &PrinterTab::showStatus);
     PrinterTab::createWidgets();
 }
 
@@ -57,6 +60,12 @@ PrinterTab::~PrinterTab()
 QTableWidget *PrinterTab::table() const
 {
     return printerTable;
+}
+
+QString PrinterTab::queueInRow(int row) const
+{
+    const QTableWidgetItem *item = printerTable->item(row, NameColumn);
+    return item ? item->text() : QString();
 }
 
 // Widgets
@@ -83,6 +92,9 @@ void PrinterTab::createWidgets()
     installedGrid = new QGridLayout(installedArea);
     installedGrid->setColumnStretch(2, 1);
     installedGrid->setRowStretch(999, 1); // keeps all rows at the top
+    selectHint = new QLabel(tr("Select a printer."), installedArea);
+    selectHint->setAccessibleName(QStringLiteral("lblSelectPrinter"));
+    installedGrid->addWidget(selectHint, hintRow, 0, 1, 3);
     installedGrid->setSizeConstraint(QLayout::SetFixedSize);
     scrollArea->setWidgetResizable(true);
     scrollArea->setWidget(installedArea);
@@ -91,6 +103,7 @@ void PrinterTab::createWidgets()
     layout->addWidget(printerTable);
     layout->addLayout(headerGrid);
     layout->addWidget(scrollArea);
+    fillTable();
 }
 
 void PrinterTab::createTable()
@@ -105,11 +118,9 @@ void PrinterTab::createTable()
     printerTable->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     printerTable->setTabKeyNavigation(false);
     setHeaders();
-    fillTable();
-    if (printerTable->rowCount() == 0) {
-        for (int column = 0; column < ColumnCount; ++column)
-            printerTable->setColumnWidth(column, emptyColumnWidth);
-    }
+    for (int column = 0; column < ColumnCount; ++column)
+        printerTable->setColumnWidth(column, emptyColumnWidth);
+    connect(printerTable, &PrinterTable::lookAgain, this, &PrinterTab::reloadPrinterTable);
     connect(printerTable, &QTableWidget::currentCellChanged, this, &PrinterTab::changePrinter);
 }
 
@@ -123,37 +134,68 @@ void PrinterTab::setHeaders()
 void PrinterTab::fillTable()
 {
     knownPrinters.clear();
-    const QList<PrintQueue> queues = printQueues();
+    bool answered = false;
+    const QList<PrintQueue> queues = printQueues(&answered);
     for (const PrintQueue &queue : queues) {
         knownPrinters.insert(queue.name);
-        for (int rows = makerRowCount(queue.name); rows > 0; --rows) {
-            const int row = printerTable->rowCount();
-            printerTable->insertRow(row);
-            setCell(printerTable, row, NameColumn, queue.name);
-            setCell(printerTable, row, DestinationColumn, queue.deviceUri);
-        }
+        for (int rows = makerRowCount(queue.name); rows > 0; --rows)
+            addRow(queue);
     }
-    statusReader.startOver();
-    fillStatusColumn();
+    statusReader->startOver();
+    statusReader->ask(listedQueues());
     if (printerTable->rowCount() > 0) {
         printerTable->resizeColumnsToContents();
         printerTable->resizeRowsToContents();
     }
+    explainEmptiness(answered);
+    updateHint();
+}
+
+void PrinterTab::addRow(const PrintQueue &queue)
+{
+    const int row = printerTable->rowCount();
+    printerTable->insertRow(row);
+    setCell(printerTable, row, NameColumn, queue.name);
+    setCell(printerTable, row, DestinationColumn, queue.deviceUri);
+    setCell(printerTable, row, StatusColumn, statuses.value(queue.name, tr("Asking...")));
+}
+
+void PrinterTab::showStatus(const QString &queue, const QString &status)
+{
+    statuses.insert(queue, status);
+    // The table may have other rows by now than when the queue was asked for.
+    for (int row = 0; row < printerTable->rowCount(); ++row) {
+        QTableWidgetItem *item = printerTable->item(row, StatusColumn);
+        if (queueInRow(row) != queue || item->text() == status)
+            continue;
+        item->setText(status);
+        printerTable->resizeRowToContents(row);
+    }
+}
+
+void PrinterTab::explainEmptiness(bool answered)
+{
+    QString text;
+    if (!answered)
+        text = tr("The print system (CUPS) does not answer, so no printer can be listed.");
+    else if (printerTable->rowCount() == 0)
+        text = tr("There is no Brixola printer yet. A print queue counts as one if it uses the PPD "
+                  "of a Brixola or NV-RATEX printer; a driverless one does not. Add the printer "
+                  "with that PPD in the print settings of your system or with lpadmin.");
+    printerTable->explainEmptiness(text, tr("Look again"));
+}
+
+void PrinterTab::updateHint()
+{
+    selectHint->setVisible(!currentStore && printerTable->rowCount() > 0);
 }
 
 QStringList PrinterTab::listedQueues() const
 {
     QStringList names;
     for (int row = 0; row < printerTable->rowCount(); ++row)
-        names.append(printerTable->item(row, NameColumn)->text());
+        names.append(queueInRow(row));
     return names;
-}
-
-void PrinterTab::fillStatusColumn()
-{
-    const QStringList statuses = statusReader.statuses(listedQueues());
-    for (int row = 0; row < statuses.size(); ++row)
-        setCell(printerTable, row, StatusColumn, statuses[row]);
 }
 
 void PrinterTab::reloadPrinterTable()
@@ -193,17 +235,19 @@ void PrinterTab::clearPrinterSelection()
     rootWarning->hide();
     printerTable->verticalScrollBar()->setValue(0);
     installedHeader->setEnabled(false);
+    updateHint();
 }
 
 void PrinterTab::retranslate()
 {
     setHeaders();
     setTabName();
-    fillStatusColumn();
+    statusReader->ask(listedQueues());
     styleErrorLabel(rootWarning, 10); // the window has given the page its colours since it was made
     rootWarning->setText(tr("Root access is required to make changes to installable options"));
     installedHeader->setText(tr("Installed options"));
     installedHeader->update();
+    selectHint->setText(tr("Select a printer."));
 }
 
 // Selecting a printer
@@ -212,9 +256,7 @@ void PrinterTab::changePrinter(int row, int, int prev_row, int)
 {
     if (row == prev_row)
         return;
-    const QTableWidgetItem *item = printerTable->item(row, NameColumn);
-    const QString name = item ? item->text() : QString();
-
+    const QString name = queueInRow(row);
     currentStore = nullptr;
     if (queueNames().contains(name)) {
         // Without a PPD that can be read there is no store, and the pages show nothing.
@@ -222,6 +264,10 @@ void PrinterTab::changePrinter(int row, int, int prev_row, int)
             store->setPrinterName(name);
             currentStore = store.get();
             stores.push_back(std::move(store));
+            // Not only after the click: until then its first publication may take a while.
+            printerTable->selectionModel()->select(printerTable->model()->index(row, NameColumn),
+                                                   QItemSelectionModel::ClearAndSelect |
+                                                       QItemSelectionModel::Rows);
         }
     }
     if (!currentStore)
@@ -238,6 +284,7 @@ void PrinterTab::reload()
     clearMarks();
     applyLabels();
     installedHeader->setEnabled(true);
+    updateHint();
     installedHeader->setText(tr("Installed options"));
     loadOptions();
     applyAllWidgets();

@@ -11,6 +11,7 @@ class PrinterTable;
 class QGridLayout;
 class QLabel;
 class QTableWidget;
+struct PrintQueue;
 
 /// The page "Printer": the queues of the maker's printers in a table, and the selected one's
 /// installed options.
@@ -18,6 +19,8 @@ class QTableWidget;
 /// Selecting a row makes a new OptionStore the current one. The page keeps every store that it has
 /// made, so that nothing which still points into an older one dangles. A change of an installed
 /// option is no setting of the user: the page only reports it.
+///
+/// The status of the queues comes in while the page shows; until then a row keeps its last one.
 class PrinterTab : public Tab
 {
     Q_OBJECT
@@ -38,6 +41,8 @@ public:
 
     /// The list of queues; its currentCellChanged() is the selection of a printer.
     QTableWidget *table() const;
+    /// The queue of a row of the list; empty if there is no such row.
+    QString queueInRow(int row) const;
     /// True while an installed option differs from what the printer's PPD says.
     bool installedOptionsChanged() const { return installedChanged; }
     /// Takes what the page shows as what the PPD says.
@@ -56,7 +61,10 @@ private:
     void createTable();
     void setHeaders();
     void fillTable();
-    void fillStatusColumn();
+    void addRow(const PrintQueue &queue);
+    void showStatus(const QString &queue, const QString &status);
+    void explainEmptiness(bool answered);
+    void updateHint();
     QStringList listedQueues() const;
     void createInstalledOptions();
     void addInstalledOption(const bOption *option);
@@ -66,10 +74,12 @@ private:
     PrinterTable *printerTable;
     QLabel *installedHeader;
     QLabel *rootWarning;
+    QLabel *selectHint; ///< in the room of the installed options while no printer is selected
     QGridLayout *installedGrid;
     int installedRowCount = 0;
     QHash<QString, QString> installedValues; ///< as last loaded or written
     bool installedChanged = false;
-    PrinterStatusReader statusReader;
+    PrinterStatusReader *statusReader;
+    QHash<QString, QString> statuses; ///< by queue, as they were told last
     std::vector<std::unique_ptr<OptionStore>> stores;
 };

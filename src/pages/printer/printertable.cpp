@@ -1,5 +1,33 @@
 #include "pages/printer/printertable.h"
 
+#include <QLabel>
+#include <QVBoxLayout>
+
+PrinterTable::PrinterTable(int rows, int columns, QWidget *parent)
+    : QTableWidget(rows, columns, parent)
+    , explanation(new QLabel(viewport()))
+{
+    explanation->setAccessibleName(QStringLiteral("lblNoPrinters"));
+    explanation->setWordWrap(true);
+    explanation->setAlignment(Qt::AlignCenter);
+    explanation->setTextFormat(Qt::RichText); // of plain text and a link
+    explanation->setTextInteractionFlags(Qt::LinksAccessibleByMouse |
+                                         Qt::LinksAccessibleByKeyboard);
+    explanation->hide();
+    connect(explanation, &QLabel::linkActivated, this, &PrinterTable::lookAgain);
+    auto *layout = new QVBoxLayout(viewport());
+    layout->addWidget(explanation);
+}
+
+void PrinterTable::explainEmptiness(const QString &text, const QString &link)
+{
+    const QString line = QStringLiteral("<p>%1</p>");
+    explanation->setText(
+        line.arg(text.toHtmlEscaped()) +
+        line.arg(QStringLiteral("<a href=\"#\">%1</a>").arg(link.toHtmlEscaped())));
+    explanation->setVisible(!text.isEmpty());
+}
+
 void PrinterTable::focusInEvent(QFocusEvent *event)
 {
     if (currentIndex().isValid()) {

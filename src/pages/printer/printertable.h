@@ -2,6 +2,8 @@
 
 #include <QTableWidget>
 
+class QLabel;
+
 /// A table in which only a click or a key makes a row current: Qt's tables choose the first row
 /// when they get the focus, and here that would select a printer and publish its defaults. While no
 /// row is current, none looks selected.
@@ -10,7 +12,15 @@ class PrinterTable : public QTableWidget
     Q_OBJECT
 
 public:
-    using QTableWidget::QTableWidget;
+    PrinterTable(int rows, int columns, QWidget *parent);
+
+    /// Says in the room of the rows why there are none; with an empty text it says nothing.
+    /// \param text plain text
+    /// \param link a further line, which lookAgain() tells of when it is followed
+    void explainEmptiness(const QString &text, const QString &link);
+
+signals:
+    void lookAgain();
 
 protected:
     void focusInEvent(QFocusEvent *event) override;
@@ -19,4 +29,6 @@ protected:
 
 private:
     void dropStaleSelection();
+
+    QLabel *explanation;
 };
