@@ -36,6 +36,7 @@ QString printerName()
 PasswordPrompt::PasswordPrompt(PanelDialog *owner, const QString &ppdArguments)
     : passwordEdit(new QLineEdit(this))
     , methodCombo(new ComboBoxEx(this))
+    , whosePassword(new QLabel(this))
     , owner(owner)
     , ppdArguments(ppdArguments)
 {
@@ -49,6 +50,7 @@ PasswordPrompt::PasswordPrompt(PanelDialog *owner, const QString &ppdArguments)
     passwordEdit->setInputMethodHints(Qt::ImhHiddenText | Qt::ImhSensitiveData |
                                       Qt::ImhNoPredictiveText);
     createLayout();
+    explainMethods();
     passwordEdit->setFocus();
 }
 
@@ -66,6 +68,34 @@ void PasswordPrompt::createLayout()
     grid->addWidget(methodCombo, 2, 1, Qt::AlignRight);
     grid->addWidget(passwordEdit, 2, 2, Qt::AlignLeft);
     grid->addWidget(okButton, 3, 2, Qt::AlignRight);
+    grid->addWidget(whosePassword, 4, 1, 1, 3, Qt::AlignCenter);
+}
+
+void PasswordPrompt::explainMethods()
+{
+    const QString explanations[] = {
+        tr("sudo wants your own password."),
+        tr("su wants the administrator's password (root)."),
+    };
+    whosePassword->setAccessibleName(QStringLiteral("lblWhosePassword"));
+    whosePassword->setAlignment(Qt::AlignCenter);
+    int width = 0; // the prompt doesn't change its size with the way
+    for (int method = 0; method < methodCombo->count(); ++method) {
+        methodCombo->setItemData(method, explanations[method], Qt::ToolTipRole);
+        width = qMax(width, whosePassword->fontMetrics().horizontalAdvance(explanations[method]));
+    }
+    whosePassword->setMinimumWidth(width);
+    connect(methodCombo, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &PasswordPrompt::showWhosePassword);
+    showWhosePassword();
+}
+
+void PasswordPrompt::showWhosePassword()
+{
+    const QString text = methodCombo->currentData(Qt::ToolTipRole).toString();
+    whosePassword->setText(text);
+    methodCombo->setToolTip(text);
+    passwordEdit->setAccessibleDescription(text);
 }
 
 void PasswordPrompt::reject()

@@ -7,6 +7,7 @@
 
 class ComboBoxEx;
 class PanelDialog;
+class QLabel;
 class QLineEdit;
 
 /// Asks for the root password and has `bixPPDWrite_F` write the installed options into the queue's
@@ -35,6 +36,9 @@ public slots:
 
 private:
     void createLayout();
+    void explainMethods();
+    /// Says below the fields whose password the chosen way wants.
+    void showWhosePassword();
     QString takePassword();
     int runPpdWriter(const QString &password, const QString &prefix, const QString &arguments);
     void showFailure(const QString &text);
@@ -43,6 +47,7 @@ private:
     UntraceableProcess untraceable;
     QLineEdit *passwordEdit;
     ComboBoxEx *methodCombo;
+    QLabel *whosePassword;
     PanelDialog *owner;
     QString ppdArguments;
 };
