@@ -4,7 +4,6 @@
 #include "app/keyboardareas.h"
 #include "app/publication.h"
 #include "app/settingscollector.h"
-#include "desktop/desktopsettings.h"
 #include "model/optionstore.h"
 #include "model/printqueues.h"
 #include "pages/base/optionlabels.h"
@@ -16,6 +15,7 @@
 #include "storage/settingsfile.h"
 #include "widgets/bixbuttongroup.h"
 #include "widgets/bixtabwidget.h"
+#include "widgets/noticeline.h"
 
 #include <QDialogButtonBox>
 #include <QKeyEvent>
@@ -97,13 +97,15 @@ void BixDialog::printerChanged(int row, int, int previousRow, int)
     setButtonsEnabled(false);
     setProfileButtonsEnabled(false);
     if (!currentStore) {
+        const QString queue = printerTab->queueInRow(row);
         printerTab->clearMarks();
         setWindowTitle(tr("Brixola Press Desk"));
         if (!checkPrinters())
-            unselectPrinters(); // the queue is there, but its PPD can't be read
+            showUnreadablePpd(queue); // the queue is there
         setButtonsEnabled(false);
         return;
     }
+    notice->forget();
     for (Tab *page : qAsConst(pages))
         page->retranslate();
     const QString printer = currentStore->printerName();
@@ -123,6 +125,15 @@ void BixDialog::printerChanged(int row, int, int previousRow, int)
         setButtonsEnabled(true);
         setProfileButtonsEnabled(true);
     }
+}
+
+void BixDialog::showUnreadablePpd(const QString &queue)
+{
+    unselectPrinters();
+    if (!queue.isEmpty())
+        notice->tell(
+            [](const QString &name) { return tr("The PPD of %1 can't be read.").arg(name); },
+            {queue});
 }
 
 void BixDialog::profileChanged()
@@ -323,37 +334,4 @@ void BixDialog::accept()
     slotButtonApply();
     if (closeAfterApply)
         close();
-}
-
-void BixDialog::writeTolpoptions()
-{
-    published = false;
-    if (!currentStore)
-        return;
-    const QString printer = currentStore->printerName();
-    if (!queueNames().contains(printer)) {
-        showFailedPublication();
-        return;
-    }
-    const Settings &settings = collector->collect();
-    writeCfg(cfgPath(printer), settings, true);
-    if (!publication->run(printer, settings)) {
-        showFailedPublication();
-        return;
-    }
-    runDesktopExport(settings);
-    published = true;
-}
-
-void BixDialog::showFailedPublication()
-{
-    QMessageBox box(this);
-    box.setWindowTitle(tr("Error"));
-    box.setText(tr("Error: Printer does not exist or lpoptions failed."));
-    box.exec();
-    tabWidget->setCurrentIndex(0);
-    // Apply has filled the table anew, so that nothing seems to have changed since. While the
-    // scheduler is only restarted, nothing that was set is to be lost.
-    if (!checkPrinters() && !isSelectedPrinterKnown() && isPrintSystemReachable())
-        unselectPrinters();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pages/base/paneldialog.h"
+#include "storage/settingsfile.h"
 
 #include <QList>
 #include <QTimer>
@@ -87,7 +88,12 @@ private:
     void setProfileButtonsEnabled(bool on);
     /// Says on the buttons below the pages what holds them back.
     void explainButtons();
+    /// For a queue that the print system has, or empty.
+    void showUnreadablePpd(const QString &queue);
     void changeInstalledOptions();
+    /// Runs what publication takes; meanwhile the window is drawn and the user can only wait.
+    /// `settings` must stay as they are for as long. False if they aren't published.
+    bool publish(const QString &printer, const Settings &settings);
     void showFailedPublication();
     /// Fills the table of printers anew if they are others now, and unselects one that is gone.
     /// True if they are others.

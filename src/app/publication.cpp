@@ -28,7 +28,7 @@ bool Publication::run(const QString &printer, const Settings &settings)
     if (!ppd->isOpen() || !isOneWord(printer))
         return false;
     processes.push_back(std::make_unique<QProcess>());
-    if (runCommand(processes.back().get(), command(printer, ppd->optionKeywords(), settings)))
+    if (runCommandInLoop(processes.back().get(), command(printer, ppd->optionKeywords(), settings)))
         return true;
     ppd->leaveFile();
     failedPpds.push_back(std::move(ppd));

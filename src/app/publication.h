@@ -23,9 +23,9 @@ public:
     ~Publication();
 
     /// Publishes those settings whose keywords the queue's PPD declares, and waits for the end, at
-    /// most 30 seconds. False if the PPD can't be read, if the name would come apart in the
-    /// command, or if `lpoptions` can't be started or has no end in time; what it makes of the
-    /// options is not looked at.
+    /// most 30 seconds, in an event loop: see waitInLoop(). False if the PPD can't be read, if the
+    /// name would come apart in the command, or if `lpoptions` can't be started or has no end in
+    /// time; what it makes of the options is not looked at.
     bool run(const QString &printer, const Settings &settings);
 
     /// The command for a queue: "lpoptions -p NAME -o KEY=VALUE ..." in the order of the keywords.

@@ -34,12 +34,10 @@ QString homeDirectory()
 bool waitForLine(QProcess *process)
 {
     QDeadlineTimer deadline(longestCommandWait);
-    while (!process->canReadLine()) {
-        // The last lines may come in just as the process is seen to have ended.
-        if (!process->waitForReadyRead(int(deadline.remainingTime())))
-            return process->canReadLine();
-    }
-    return true;
+    while (!process->canReadLine() && process->state() != QProcess::NotRunning &&
+           !deadline.hasExpired())
+        waitInLoop(process, Until::Output, int(deadline.remainingTime()));
+    return process->canReadLine();
 }
 
 /// A line of LibreOffice's registry, with "true" for every "false" if it tells of collation.
@@ -53,7 +51,7 @@ QByteArray withCollateOn(const QByteArray &line)
 void run(const QString &command)
 {
     QProcess process;
-    runCommand(&process, command);
+    runCommandInLoop(&process, command);
 }
 
 } // namespace

@@ -43,5 +43,6 @@ private:
     QStringList patterns;
 };
 
-/// Finds and changes the applications' files for the settings that have just been published.
+/// Finds and changes the applications' files for the settings that have just been published. Waits
+/// in an event loop: see waitInLoop().
 void runDesktopExport(const Settings &settings);

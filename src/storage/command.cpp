@@ -1,6 +1,9 @@
 #include "storage/command.h"
 
+#include <QDeadlineTimer>
+#include <QEventLoop>
 #include <QProcess>
+#include <QTimer>
 
 bool isOneWord(const QString &text)
 {
@@ -20,6 +23,33 @@ bool runCommand(QProcess *process, const QString &command)
 {
     startCommand(process, command);
     const bool ended = process->waitForFinished(longestCommandWait);
+    process->close();
+    return ended;
+}
+
+void waitInLoop(QProcess *process, Until until, int longest)
+{
+    const QDeadlineTimer deadline(longest);
+    QEventLoop loop;
+    const auto finished = qOverload<int, QProcess::ExitStatus>(&QProcess::finished);
+    QObject::connect(process, finished, &loop, &QEventLoop::quit);
+    QObject::connect(process, &QProcess::errorOccurred, &loop, &QEventLoop::quit);
+    if (until == Until::Output)
+        QObject::connect(process, &QProcess::readyRead, &loop, &QEventLoop::quit);
+    QTimer::singleShot(longest, &loop, &QEventLoop::quit);
+    if (process->state() != QProcess::NotRunning)
+        loop.exec();
+    // A program that is told to end leaves all loops at once, and the command still has its time.
+    if (until == Until::End && process->state() != QProcess::NotRunning)
+        process->waitForFinished(int(deadline.remainingTime()));
+}
+
+bool runCommandInLoop(QProcess *process, const QString &command)
+{
+    startCommand(process, command);
+    waitInLoop(process, Until::End, longestCommandWait);
+    const bool ended =
+        process->state() == QProcess::NotRunning && process->error() != QProcess::FailedToStart;
     process->close();
     return ended;
 }

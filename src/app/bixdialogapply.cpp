@@ -1,0 +1,75 @@
+#include "app/bixdialog.h"
+#include "app/busyguard.h"
+#include "app/publication.h"
+#include "app/settingscollector.h"
+#include "desktop/desktopsettings.h"
+#include "model/optionstore.h"
+#include "model/printqueues.h"
+#include "storage/settingsfile.h"
+#include "widgets/bixtabwidget.h"
+#include "widgets/noticeline.h"
+
+#include <QDialogButtonBox>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScopedValueRollback>
+
+// Publication: the settings file, the print system, the desktop applications.
+
+void BixDialog::writeTolpoptions()
+{
+    published = false;
+    if (!currentStore)
+        return;
+    const QString printer = currentStore->printerName();
+    if (!queueNames().contains(printer)) {
+        showFailedPublication();
+        return;
+    }
+    const Settings settings = collector->collect();
+    writeCfg(cfgPath(printer), settings, true);
+    if (!publish(printer, settings)) {
+        showFailedPublication();
+        return;
+    }
+    published = true;
+}
+
+void BixDialog::showFailedPublication()
+{
+    QMessageBox box(this);
+    box.setWindowTitle(tr("Error"));
+    box.setText(tr("Error: Printer does not exist or lpoptions failed."));
+    box.exec();
+    tabWidget->setCurrentIndex(0);
+    // Apply has filled the table anew, so that nothing seems to have changed since. While the
+    // scheduler is only restarted, nothing that was set is to be lost.
+    if (!checkPrinters() && !isSelectedPrinterKnown() && isPrintSystemReachable())
+        unselectPrinters();
+}
+
+bool BixDialog::publish(const QString &printer, const Settings &settings)
+{
+    const bool couldApply = buttonBox->button(QDialogButtonBox::Apply)->isEnabled();
+    const bool wasSettling = settling.isActive();
+    setButtonsEnabled(false);
+    settling.stop();
+    notice->showWork(tr("Applying..."));
+    bool complete = false;
+    {
+        const BusyGuard busy;
+        // What starts a pass meanwhile, such as the policy server, only asks for a later one.
+        const QScopedValueRollback<bool> held(passRunning, true);
+        passDue = false;
+        complete = publication->run(printer, settings);
+        if (complete)
+            runDesktopExport(settings);
+    }
+    notice->endWork();
+    setButtonsEnabled(couldApply);
+    if (wasSettling)
+        settling.start();
+    if (passDue)
+        QTimer::singleShot(0, this, &BixDialog::setConstraints);
+    return complete;
+}
