@@ -37,9 +37,13 @@ void waitInLoop(QProcess *process, Until until, int longest)
     if (until == Until::Output)
         QObject::connect(process, &QProcess::readyRead, &loop, &QEventLoop::quit);
     QTimer::singleShot(longest, &loop, &QEventLoop::quit);
-    if (process->state() != QProcess::NotRunning)
-        loop.exec();
-    // A program that is told to end leaves all loops at once, and the command still has its time.
+    if (process->state() == QProcess::NotRunning)
+        return;
+    // A program that has been told to end has no event loop any more, and the command still has its
+    // time.
+    const bool hasNoLoop = loop.exec() < 0;
+    if (until == Until::Output && hasNoLoop)
+        process->waitForReadyRead(int(deadline.remainingTime()));
     if (until == Until::End && process->state() != QProcess::NotRunning)
         process->waitForFinished(int(deadline.remainingTime()));
 }
