@@ -17,6 +17,9 @@ QWidget *findWidget(const QString &word);
 /// The same for shown widgets only.
 QWidget *findVisibleWidget(const QString &word);
 
+/// The place in the tab bar of the page in the background that the widget is on, or -1.
+int backgroundPage(const QString &word);
+
 /// Says why findVisibleWidget() found nothing.
 QString notFoundMessage(const QString &word);
 

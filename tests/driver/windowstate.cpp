@@ -237,9 +237,9 @@ QString standardName(const QDialogButtonBox *box, const QAbstractButton *button)
     return standard.valueToKey(box->standardButton(const_cast<QAbstractButton *>(button)));
 }
 
-/// Those of the window itself: below it are also dialogs that it has made. `seen`: the names that
-/// windows in front of it have.
-void addStandardButtons(Lines *lines, const QWidget *window, QSet<QString> *seen)
+/// Those of the window itself: below it are also dialogs that it has made. A dialog's are
+/// "NAME of TITLE".
+void addStandardButtons(Lines *lines, const QWidget *window)
 {
     const auto boxes = window->findChildren<QDialogButtonBox *>();
     for (const QDialogButtonBox *box : boxes) {
@@ -247,10 +247,11 @@ void addStandardButtons(Lines *lines, const QWidget *window, QSet<QString> *seen
         for (const QAbstractButton *button : buttons) {
             const QString text = withoutMnemonic(button->text());
             const QString standard = standardName(box, button);
-            const QString name = standard == "NoButton" ? text : standard;
-            if (box->window() != window || seen->contains(name))
+            QString name = standard == "NoButton" ? text : standard;
+            if (box->window() != window)
                 continue;
-            seen->insert(name);
+            if (!window->inherits("BixDialog"))
+                name += " of " + window->windowTitle();
             lines->add(name, text + (button->isEnabled() ? "" : " grey"));
         }
     }
@@ -304,12 +305,11 @@ QStringList windowState()
         addFront(&lines, front);
     QStringList nameless;
     QSet<QString> seen;
-    QSet<QString> seenButtons;
     const QList<QWidget *> windows = windowsFrontToBack();
     for (const QWidget *window : windows) {
         if (!window->isVisible() || window->windowType() == Qt::ToolTip)
             continue;
-        addStandardButtons(&lines, window, &seenButtons);
+        addStandardButtons(&lines, window);
         const auto widgets = window->findChildren<QWidget *>();
         for (const QWidget *widget : widgets) {
             if (const auto *bar = qobject_cast<const QTabBar *>(widget))
