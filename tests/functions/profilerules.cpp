@@ -3,48 +3,31 @@
 #include "profiles/profilerules.h"
 
 #include "functiontests.h"
-#include "support/testhelpers.h"
 
-class TestProfileRules : public QObject
+static QStringList validity(const QStringList &in)
 {
-    Q_OBJECT
-
-private slots:
-    void validity_data();
-    void validity();
-};
-
-void TestProfileRules::validity_data()
-{
-    addColumns<QString, QString, bool>("name", "description", "valid");
-    addRow("none", "", "", false);
-    addRow("leading blank, single quotes and shell signs", " -rf Bob's “$(x)” & <b> \\n *", "",
-           true);
-    addRow("hidden file", ".Draft", "", false);
-    addRow("dot inside", "Draft.cfg", "", true);
-    addRow("slash", "../Draft", "", false);
-    addRow("double quote", "5\" label", "", false);
-    addRow("backquote", "a`b", "", false);
-    addRow("semicolon", "a;b", "", false);
-    addRow("a queue's in other case", "oFFice_c3", "", false);
-    addRow("251 bytes", QString(125, QChar(0xe4)) + 'a', "", true);
-    addRow("252 bytes in fewer letters", QString(126, QChar(0xe4)), "", false);
-    addRow("longest description", "a", QString(1024, '\n'), true);
-    addRow("too long a description", "a", QString(1025, 'd'), false);
-    // The factory entry's name in each language.
-    for (const char *reserved :
-         {"  factory \t default ", "Paramètres du fabricant", "Werkseinstellung",
-          "Impostazioni fabbrica", "Valor predeterminado de fábrica", "PADRÃO DE FÁBRICA"})
-        addRow(reserved, reserved, "", false);
-    addRow("longer than a reserved name", "Werkseinstellung 2", "", true);
+    return {isValidProfile(in[0], in[1], {"Office_C3"}) ? "valid" : "refused"};
 }
 
-void TestProfileRules::validity()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, description);
-    QTEST(isValidProfile(name, description, {"Office_C3"}), "valid");
-}
-
-static const FunctionTests::Entry<TestProfileRules> entry;
-#include "profilerules.moc"
+static const FunctionTests::Table table("TestProfileRules", 2, validity, R"(
+none                        |                             |         | refused
+leading blank, shell signs  | ( ){1}-rf Bob's “$(x)” & <b> \n *  |   | valid
+hidden file                 | .Draft                      |         | refused
+dot inside                  | Draft.cfg                   |         | valid
+slash                       | ../Draft                    |         | refused
+double quote                | 5" label                    |         | refused
+backquote                   | a`b                         |         | refused
+semicolon                   | a;b                         |         | refused
+a queue's in other case     | oFFice_c3                   |         | refused
+251 bytes                   | ä{125}a                     |         | valid
+252 bytes in fewer letters  | ä{126}                      |         | refused
+longest description         | a                           | d{1024} | valid
+too long a description      | a                           | d{1025} | refused
+factory entry, with blanks  | ( ){2}factory ( ){2}default ( ){1} |  | refused
+of a French user            | Paramètres du fabricant     |         | refused
+of a German user            | Werkseinstellung            |         | refused
+of an Italian user          | Impostazioni fabbrica       |         | refused
+of a Spanish user           | Valor predeterminado de fábrica |     | refused
+of a Portuguese user        | PADRÃO DE FÁBRICA           |         | refused
+longer than a reserved name | Werkseinstellung 2          |         | valid
+)");
