@@ -329,20 +329,10 @@ Step pressStep(const QStringList &keys)
             }};
 }
 
-/// Of the named widget's window, or the front window, as the window manager does.
-Step windowStep(const QString &word, bool close)
+/// Of the front window, as the window manager does.
+Step windowStep(bool close)
 {
-    QPointer<QWidget> window = frontWindow();
-    if (!word.isEmpty()) {
-        QWidget *widget = findVisibleWidget(word);
-        window = widget ? widget->window() : nullptr;
-    }
-    if (!window)
-        return {notFoundMessage(word), {}};
-    const QString blocked = obstacle(window);
-    if (!blocked.isEmpty())
-        return {blocked, {}};
-    return {{}, [window, close] {
+    return {{}, [window = frontWindow(), close] {
                 if (close) {
                     window->close();
                 } else {
@@ -394,7 +384,7 @@ Step prepareStep(const QStringList &words)
                     sendKey(Qt::CTRL + Qt::Key_V);
                 }};
     if (verb == "close" || verb == "activate")
-        return windowStep(first, verb == "close");
+        return windowStep(verb == "close");
     if (verb == "grab")
         return grabStep(first, second);
     return {QString("there is no step \"%1\"").arg(verb), {}};

@@ -39,8 +39,6 @@ bool hasClass(const QWidget *widget, const QString &word)
 
 QWidget *find(const QString &word, bool visible)
 {
-    if (word == "@focus")
-        return visible ? QApplication::focusWidget() : nullptr;
     if (word.isEmpty())
         return nullptr;
     const QList<QWidget *> windows = windowsFrontToBack();

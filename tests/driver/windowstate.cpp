@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDebug>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -43,9 +44,9 @@ bool isHiddenOnItsPage(const QWidget *widget)
     return false;
 }
 
-bool isMarked(const QString &text)
+int markCount(const QString &text)
 {
-    return text.contains("<img");
+    return text.count("<img");
 }
 
 QString plain(const QString &text)
@@ -92,10 +93,12 @@ private:
         return widget;
     }
 
-    static QString mark(bool marked, const QString &toolTip)
+    static QString mark(int count, const QString &toolTip)
     {
-        return marked ? " marked" + (toolTip.isEmpty() ? QString() : ' ' + quoted(plain(toolTip)))
-                      : QString();
+        if (count == 0)
+            return {};
+        return (count > 1 ? " marked twice" : " marked") +
+               (toolTip.isEmpty() ? QString() : ' ' + quoted(plain(toolTip)));
     }
 
     QString valueOf(const QString &name, const QWidget *widget)
@@ -114,7 +117,7 @@ private:
                                                     button->toolTip())
                                          : QString("button");
         if (auto *label = qobject_cast<const QLabel *>(widget))
-            return quoted(plain(label->text())) + mark(isMarked(label->text()), label->toolTip());
+            return quoted(plain(label->text())) + mark(markCount(label->text()), label->toolTip());
         if (auto *line = qobject_cast<const QLineEdit *>(widget))
             return quoted(line->text());
         if (auto *text = qobject_cast<const QTextEdit *>(widget))
@@ -170,7 +173,7 @@ private:
                 text.chop(checked.size() + 1);
             add(name + ".label", quoted(text));
         }
-        return checked + (label ? mark(isMarked(label->text()), label->toolTip()) : QString());
+        return checked + (label ? mark(markCount(label->text()), label->toolTip()) : QString());
     }
 
     /// Behind the text a tool tip that says something else.
@@ -341,19 +344,13 @@ QString propertyText(const QWidget *widget, const QString &property)
     }
     if (property == "heading")
         return widget->property("plainText").toString().section('\n', 0, 0);
-    const QVariant value = widget->property(property.toLatin1().constData());
-    if (value.canConvert<QRect>()) {
-        const QRect rect = value.toRect();
-        return QString("%1 %2 %3 %4")
-            .arg(rect.x())
-            .arg(rect.y())
-            .arg(rect.width())
-            .arg(rect.height());
-    }
-    if (value.canConvert<QSize>() || value.canConvert<QPixmap>()) {
-        const QSize size =
-            value.canConvert<QPixmap>() ? value.value<QPixmap>().size() : value.toSize();
-        return QString("%1 %2").arg(size.width()).arg(size.height());
+    QVariant value = widget->property(property.toLatin1().constData());
+    if (value.canConvert<QPixmap>())
+        value = value.value<QPixmap>().size();
+    if (!value.canConvert<QString>()) {
+        QString text;
+        QDebug(&text).nospace() << value;
+        return text;
     }
     return value.toString().replace('\n', ' ');
 }

@@ -216,7 +216,12 @@ QStringList Player::worldStep(const QString &verb, const QStringList &words, con
 {
     const QString name = words.value(1);
     QString error;
-    if (verb == "queue")
+    if (verb == "queue" && !step.block.isEmpty()) {
+        // With a PPD of its own.
+        const QString ppd = name + ".ppd";
+        error = world.addPpd(ppd, step.block);
+        error += world.addQueue(QStringList{name, ppd} + words.mid(2));
+    } else if (verb == "queue")
         error = world.addQueue(words.mid(1));
     else if (verb == "ppd")
         error = world.addPpd(name, step.block);
@@ -411,6 +416,12 @@ void Player::expect(const QStringList &step, const PanelState &now)
     if (step.value(0) == "row") {
         const QString row = now.value(step.value(1));
         shown[step.value(1)] = row.contains(step.value(2)) ? row : QString("another row");
+    }
+    // A mark on any page is what greys these.
+    if (now.value("marked") != shown.value("marked")) {
+        for (const char *button : {"Apply", "Ok"})
+            shown[button] =
+                withoutLook(shown.value(button)) + (now.value("marked").isEmpty() ? "" : " grey");
     }
     // A dialog that closes leads back to the window, or to one that was there before.
     const QString title = now.value("title");
