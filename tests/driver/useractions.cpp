@@ -106,10 +106,6 @@ Spot indicatorSpot(QAbstractButton *button, QStyle::SubElement indicator)
 
 Spot widgetSpot(QWidget *widget)
 {
-    if (widget->inherits("BixCheckBoxButton")) {
-        if (auto *box = widget->findChild<QCheckBox *>())
-            widget = box;
-    }
     if (auto *box = qobject_cast<QCheckBox *>(widget))
         return indicatorSpot(box, QStyle::SE_CheckBoxIndicator);
     if (auto *button = qobject_cast<QRadioButton *>(widget))
@@ -231,7 +227,10 @@ Step clickStep(const Spot &spot, bool twice = false)
 
 Step checkStep(const QString &word, bool on)
 {
-    const Spot spot = findSpot(word);
+    QWidget *widget = findVisibleWidget(word);
+    if (widget && widget->inherits("BixCheckBoxButton"))
+        widget = widget->findChild<QCheckBox *>(); // beside the picture
+    const Spot spot = widget ? widgetSpot(widget) : noSpot(notFoundMessage(word));
     const auto *button = qobject_cast<QAbstractButton *>(spot.widget.data());
     if (button && button->isCheckable() && button->isChecked() == on)
         return {on ? "it is on already" : "it is off already", {}};
