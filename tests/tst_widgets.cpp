@@ -21,9 +21,6 @@ class TestWidgets : public QObject
 private slots:
     void groupChangesBeforeItTells();
     void groupShowsNamesAsTheyAre();
-    void checkBoxButtonTells();
-    void refreshDependents_data();
-    void refreshDependents();
     void popupWidth();
     void wheelNeedsTheFocus();
     void disabledTabDrawsNothing();
@@ -90,61 +87,6 @@ void TestWidgets::groupShowsNamesAsTheyAre()
         group.clearMark();
         QCOMPARE(label->text(), whole.toHtmlEscaped());
     }
-}
-
-void TestWidgets::checkBoxButtonTells()
-{
-    QWidget window;
-    BixCheckBoxButton button(&window, "Staple", QIcon());
-    QLabel dependent;
-    button.addDependent(&dependent, "no_default");
-    QStringList events; // with what the dependent is by then
-    const auto note = [&](const char *kind, int value) {
-        events << QString("%1 %2 %3").arg(kind).arg(value).arg(dependent.isEnabled());
-    };
-    connect(&button, qOverload<int>(&BixCheckBoxButton::toggled), [&](int i) { note("int", i); });
-    connect(&button, qOverload<bool>(&BixCheckBoxButton::toggled),
-            [&](bool b) { note("bool", b); });
-    button.findChild<QPushButton *>()->click();
-    button.findChild<QCheckBox *>()->click();
-    QCOMPARE(events, QStringList({"bool 1 1", "int 1 1", "bool 0 0", "int 0 0"}));
-    button.blockSignals(true); // silences the button, and switches all the same
-    button.setChecked(true);
-    QVERIFY(dependent.isEnabled() && events.size() == 4);
-}
-
-void TestWidgets::refreshDependents_data()
-{
-    // State: whether button, check mark, dependents are on.
-    addRows({"items", "checked", "left", "state"}, R"(
-off-value goes while on    | Off Left Right | 1 | Left Right   | 111
-off-value goes while off   | Left Off Right | 0 | Left Right   | 100
-other case, part of a word | off Official   | 1 | off Official | 111
-empty list                 |                | 1 |              | 000
-)");
-}
-
-void TestWidgets::refreshDependents()
-{
-    QFETCH(QString, items);
-    QFETCH(QString, checked);
-    QWidget window;
-    BixCheckBoxButton button(&window, "Staple", QIcon());
-    ComboBoxEx box, full; // one empty list among several is enough
-    box.addItems(items.split(' ', Qt::SkipEmptyParts));
-    full.addItem("Off");
-    button.addDependent(&box, "Off");
-    button.addDependent(&full, "None");
-    button.setChecked(checked == "1");
-    button.refreshDependents();
-    QStringList left;
-    for (int i = 0; i < box.count(); ++i)
-        left << box.itemText(i);
-    QTEST(left.join(' '), "left");
-    QCOMPARE(full.count(), 1);
-    QCOMPARE(full.isEnabled(), box.isEnabled());
-    QTEST(QString("%1%2%3").arg(button.isEnabled()).arg(button.isChecked()).arg(box.isEnabled()),
-          "state");
 }
 
 void TestWidgets::popupWidth()

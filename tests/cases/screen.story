@@ -7,8 +7,7 @@ env LAUNCHER=/tmp/play/bin/low-screen
 
 == what is far down comes into sight with the focus
 start
-ask BixDialog height
-> 415
+= BixDialog.height
 select Office
 tab Watermark
 check chkButWatermark
@@ -16,10 +15,6 @@ check chkButWatermark
 > cmbBxWsze: 72; cmbBxWtrans: Transparent; cmbBxWtxt: CONFIDENTIAL; cmbBxWtyp: Solid
 > lblCustomWatermark: "Custom watermark:"; lblWClr: "Color:"; lblWFnt: "Font:"; lblWSze: "Size:"
 > lblWang: "Angle:"; lblWtrans: "Style:"; lblWtxt: "Text:"; lblWtyp: "Fill:"; lnEditCustomWatermark: ""
-ask BixTabWidget y
-> -58
+= BixTabWidget.y
 press F6 F6 F6 Shift+Tab Shift+Tab Shift+Tab
-ask @focus accessibleName
-> butSaveCustomWatermark
-ask BixTabWidget y
-> -23
+= @focus.accessibleName; BixTabWidget.y

@@ -90,6 +90,8 @@ void DriverServer::handle(const QString &line)
             send("ok", {propertyText(widget, words.value(2))});
         else
             send("error: there is no widget " + words.value(1));
+    } else if (words.value(0) == "page") {
+        send("ok", {QString::number(backgroundPage(words.value(1)))});
     } else {
         const Step step = prepareStep(words);
         send(step.error.isEmpty() ? "ok" : "error: " + step.error);

@@ -12,7 +12,8 @@ class QLocalSocket;
 /// Carries out lines of a script that come in on a local socket, in order of arrival, also in the
 /// nested event loop of a modal dialog. One client at a time.
 ///
-/// A line is a step of useractions.h, "ask WIDGET PROPERTY", or "state". An answer is "ok" or
+/// A line is a step of useractions.h, "ask WIDGET PROPERTY", "page WIDGET" (the number of the page
+/// in the background that it is on, or -1), or "state". An answer is "ok" or
 /// "error: REASON", then lines of its own, then a line with a single dot. "state" is answered when
 /// the panel has come to rest, with the lines of windowState(); a step is answered before it acts.
 /// The panel is at rest when the step is through, or stays in the event loop of a dialog. What it

@@ -106,10 +106,6 @@ Spot indicatorSpot(QAbstractButton *button, QStyle::SubElement indicator)
 
 Spot widgetSpot(QWidget *widget)
 {
-    if (widget->inherits("BixCheckBoxButton")) {
-        if (auto *box = widget->findChild<QCheckBox *>())
-            widget = box;
-    }
     if (auto *box = qobject_cast<QCheckBox *>(widget))
         return indicatorSpot(box, QStyle::SE_CheckBoxIndicator);
     if (auto *button = qobject_cast<QRadioButton *>(widget))
@@ -231,7 +227,10 @@ Step clickStep(const Spot &spot, bool twice = false)
 
 Step checkStep(const QString &word, bool on)
 {
-    const Spot spot = findSpot(word);
+    QWidget *widget = findVisibleWidget(word);
+    if (widget && widget->inherits("BixCheckBoxButton"))
+        widget = widget->findChild<QCheckBox *>(); // beside the picture
+    const Spot spot = widget ? widgetSpot(widget) : noSpot(notFoundMessage(word));
     const auto *button = qobject_cast<QAbstractButton *>(spot.widget.data());
     if (button && button->isCheckable() && button->isChecked() == on)
         return {on ? "it is on already" : "it is off already", {}};
@@ -329,20 +328,10 @@ Step pressStep(const QStringList &keys)
             }};
 }
 
-/// Of the named widget's window, or the front window, as the window manager does.
-Step windowStep(const QString &word, bool close)
+/// Of the front window, as the window manager does.
+Step windowStep(bool close)
 {
-    QPointer<QWidget> window = frontWindow();
-    if (!word.isEmpty()) {
-        QWidget *widget = findVisibleWidget(word);
-        window = widget ? widget->window() : nullptr;
-    }
-    if (!window)
-        return {notFoundMessage(word), {}};
-    const QString blocked = obstacle(window);
-    if (!blocked.isEmpty())
-        return {blocked, {}};
-    return {{}, [window, close] {
+    return {{}, [window = frontWindow(), close] {
                 if (close) {
                     window->close();
                 } else {
@@ -394,7 +383,7 @@ Step prepareStep(const QStringList &words)
                     sendKey(Qt::CTRL + Qt::Key_V);
                 }};
     if (verb == "close" || verb == "activate")
-        return windowStep(first, verb == "close");
+        return windowStep(verb == "close");
     if (verb == "grab")
         return grabStep(first, second);
     return {QString("there is no step \"%1\"").arg(verb), {}};

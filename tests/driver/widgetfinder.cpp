@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QMetaEnum>
 #include <QRegularExpression>
+#include <QStackedWidget>
 
 #include <algorithm>
 
@@ -38,8 +39,6 @@ bool hasClass(const QWidget *widget, const QString &word)
 
 QWidget *find(const QString &word, bool visible)
 {
-    if (word == "@focus")
-        return visible ? QApplication::focusWidget() : nullptr;
     if (word.isEmpty())
         return nullptr;
     const QList<QWidget *> windows = windowsFrontToBack();
@@ -82,6 +81,15 @@ QWidget *findWidget(const QString &word)
 QWidget *findVisibleWidget(const QString &word)
 {
     return find(word, true);
+}
+
+int backgroundPage(const QString &word)
+{
+    QWidget *page = find(word, true) ? nullptr : find(word, false);
+    while (page && !page->inherits("Tab"))
+        page = page->parentWidget();
+    auto *pages = page ? qobject_cast<QStackedWidget *>(page->parentWidget()) : nullptr;
+    return pages && !page->isVisible() ? pages->indexOf(page) : -1;
 }
 
 QString notFoundMessage(const QString &word)

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDebug>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -43,9 +44,9 @@ bool isHiddenOnItsPage(const QWidget *widget)
     return false;
 }
 
-bool isMarked(const QString &text)
+int markCount(const QString &text)
 {
-    return text.contains("<img");
+    return text.count("<img");
 }
 
 QString plain(const QString &text)
@@ -92,10 +93,12 @@ private:
         return widget;
     }
 
-    static QString mark(bool marked, const QString &toolTip)
+    static QString mark(int count, const QString &toolTip)
     {
-        return marked ? " marked" + (toolTip.isEmpty() ? QString() : ' ' + quoted(plain(toolTip)))
-                      : QString();
+        if (count == 0)
+            return {};
+        return (count > 1 ? " marked twice" : " marked") +
+               (toolTip.isEmpty() ? QString() : ' ' + quoted(plain(toolTip)));
     }
 
     QString valueOf(const QString &name, const QWidget *widget)
@@ -114,7 +117,7 @@ private:
                                                     button->toolTip())
                                          : QString("button");
         if (auto *label = qobject_cast<const QLabel *>(widget))
-            return quoted(plain(label->text())) + mark(isMarked(label->text()), label->toolTip());
+            return quoted(plain(label->text())) + mark(markCount(label->text()), label->toolTip());
         if (auto *line = qobject_cast<const QLineEdit *>(widget))
             return quoted(line->text());
         if (auto *text = qobject_cast<const QTextEdit *>(widget))
@@ -170,7 +173,7 @@ private:
                 text.chop(checked.size() + 1);
             add(name + ".label", quoted(text));
         }
-        return checked + (label ? mark(isMarked(label->text()), label->toolTip()) : QString());
+        return checked + (label ? mark(markCount(label->text()), label->toolTip()) : QString());
     }
 
     /// Behind the text a tool tip that says something else.
@@ -237,9 +240,9 @@ QString standardName(const QDialogButtonBox *box, const QAbstractButton *button)
     return standard.valueToKey(box->standardButton(const_cast<QAbstractButton *>(button)));
 }
 
-/// Those of the window itself: below it are also dialogs that it has made. `seen`: the names that
-/// windows in front of it have.
-void addStandardButtons(Lines *lines, const QWidget *window, QSet<QString> *seen)
+/// Those of the window itself: below it are also dialogs that it has made. A dialog's are
+/// "NAME of TITLE".
+void addStandardButtons(Lines *lines, const QWidget *window)
 {
     const auto boxes = window->findChildren<QDialogButtonBox *>();
     for (const QDialogButtonBox *box : boxes) {
@@ -247,10 +250,11 @@ void addStandardButtons(Lines *lines, const QWidget *window, QSet<QString> *seen
         for (const QAbstractButton *button : buttons) {
             const QString text = withoutMnemonic(button->text());
             const QString standard = standardName(box, button);
-            const QString name = standard == "NoButton" ? text : standard;
-            if (box->window() != window || seen->contains(name))
+            QString name = standard == "NoButton" ? text : standard;
+            if (box->window() != window)
                 continue;
-            seen->insert(name);
+            if (!window->inherits("BixDialog"))
+                name += " of " + window->windowTitle();
             lines->add(name, text + (button->isEnabled() ? "" : " grey"));
         }
     }
@@ -316,12 +320,11 @@ QStringList windowState()
         addFront(&lines, front);
     QStringList nameless;
     QSet<QString> seen;
-    QSet<QString> seenButtons;
     const QList<QWidget *> windows = windowsFrontToBack();
     for (const QWidget *window : windows) {
         if (!window->isVisible() || window->windowType() == Qt::ToolTip)
             continue;
-        addStandardButtons(&lines, window, &seenButtons);
+        addStandardButtons(&lines, window);
         const auto widgets = window->findChildren<QWidget *>();
         for (const QWidget *widget : widgets) {
             if (const auto *bar = qobject_cast<const QTabBar *>(widget))
@@ -356,19 +359,13 @@ QString propertyText(const QWidget *widget, const QString &property)
     }
     if (property == "heading")
         return widget->property("plainText").toString().section('\n', 0, 0);
-    const QVariant value = widget->property(property.toLatin1().constData());
-    if (value.canConvert<QRect>()) {
-        const QRect rect = value.toRect();
-        return QString("%1 %2 %3 %4")
-            .arg(rect.x())
-            .arg(rect.y())
-            .arg(rect.width())
-            .arg(rect.height());
-    }
-    if (value.canConvert<QSize>() || value.canConvert<QPixmap>()) {
-        const QSize size =
-            value.canConvert<QPixmap>() ? value.value<QPixmap>().size() : value.toSize();
-        return QString("%1 %2").arg(size.width()).arg(size.height());
+    QVariant value = widget->property(property.toLatin1().constData());
+    if (value.canConvert<QPixmap>())
+        value = value.value<QPixmap>().size();
+    if (!value.canConvert<QString>()) {
+        QString text;
+        QDebug(&text).nospace() << value;
+        return text;
     }
     return value.toString().replace('\n', ' ');
 }

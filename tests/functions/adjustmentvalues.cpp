@@ -1,25 +1,30 @@
 #include "pages/imaging/adjustmentvalues.h"
 
 #include "functiontests.h"
-#include "support/testhelpers.h"
 
 using namespace AdjustmentValues;
 
-class TestAdjustmentValues : public QObject
+/// The slider's position for a saved text, and what is stored of it. For the master hue: times 1,
+/// and whole tens with a zero behind.
+static QStringList saved(const QStringList &in)
 {
-    Q_OBJECT
+    const int scale = in[1].toInt();
+    const bool isMaster = scale == 1;
+    const int position = sliderPosition(number(in[0]), scale);
+    return {QString::number(position), exactText(position, scale),
+            coarseText(position, isMaster ? 10 : scale, isMaster ? "0" : ".0")};
+}
 
-private slots:
-    void saved_data();
-    void saved();
-    void everyPositionComesBack();
-};
-
-void TestAdjustmentValues::saved_data()
+/// How many positions come back as others.
+static QStringList lost(const QStringList &)
 {
-    // A saved text, the slider's position, and what is stored of it. For the master hue: times 1,
-    // and whole tens with a zero behind.
-    addRows({"text", "scale", "position", "exact", "coarse"}, R"(
+    int count = 0;
+    for (int i = -1000; i <= 1000; ++i)
+        count += sliderPosition(number(exactText(i, 100)), 100) == i ? 0 : 1;
+    return {QString::number(count)};
+}
+
+static const FunctionTests::Table table("TestAdjustmentValues", 2, saved, R"(
 no hundredth gets lost   | 0.29   | 100 | 29          | 0.29   | 0.0
 no hundredth gained      | -0.129 | 100 | -12         | -0.12  | 0.0
 without a zero           | -.07   | 100 | -7          | -0.07  | 0.0
@@ -33,25 +38,4 @@ no number                | nan    | 100 | 0           | 0      | 0.0
 infinite                 | -inf   | 100 | 0           | 0      | 0.0
 far away                 | -1e300 | 100 | -1000000000 | -1e+07 | -10000000.0
 )");
-}
-
-void TestAdjustmentValues::saved()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, scale);
-    const int position = sliderPosition(number(text), scale.toInt());
-    QTEST(QString::number(position), "position");
-    QTEST(exactText(position, scale.toInt()), "exact");
-    const bool isMaster = scale == "1";
-    QTEST(coarseText(position, isMaster ? 10 : scale.toInt(), isMaster ? "0" : ".0"), "coarse");
-}
-
-void TestAdjustmentValues::everyPositionComesBack()
-{
-    for (int i = -1000; i <= 1000; ++i)
-        QCOMPARE(sliderPosition(number(exactText(i, 100)), 100), i);
-}
-
-static const FunctionTests::Entry<TestAdjustmentValues> entry;
-
-#include "adjustmentvalues.moc"
+static const FunctionTests::Table everyPosition("TestAdjustmentValues", 0, lost, "lost | 0");

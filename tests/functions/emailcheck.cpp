@@ -1,20 +1,14 @@
 #include "pages/job/emailcheck.h"
 
 #include "functiontests.h"
-#include "support/testhelpers.h"
 
-class TestEmailCheck : public QObject
+static QStringList fault(const QStringList &in)
 {
-    Q_OBJECT
+    const QStringList faults = {"none", "double quote", "empty", "format", "blank", "not ASCII"};
+    return {faults[int(checkEmail(in[0]))]};
+}
 
-private slots:
-    void finds_data();
-    void finds();
-};
-
-void TestEmailCheck::finds_data()
-{
-    addRows({"address", "fault"}, R"(
+static const FunctionTests::Table table("TestEmailCheck", 1, fault, R"(
 ordinary                          | jo@office.example.com | none
 shortest                          | a@b.c                 | none
 dot behind the at                 | a@.b                  | none
@@ -32,23 +26,10 @@ two dots in the name              | jo..doe@x.y           | format
 two dots in the host              | jo@x..y               | format
 no dot behind the at              | jo.doe@host           | format
 trailing dot                      | jo@x.y.               | format
+quote behind the limit            | n{120}@host.y 12"      | double quote
+dot behind the limit              | n{120}@host.yy.       | none
+cut at its last dot               | n{120}@hosts..y       | format
+at behind the limit               | n{200}@x.y            | format
+limit within a letter             | n{120}@xx.yyyé        | not ASCII
+endless                           | .{1000000}@           | format
 )");
-    const QString longName(120, 'n');
-    addRow("quote behind the limit", longName + "@host.y 12\"", "double quote");
-    addRow("dot behind the limit", longName + "@host.yy.", "none");
-    addRow("cut at its last dot", longName + "@hosts..y", "format");
-    addRow("at behind the limit", QString(200, 'n') + "@x.y", "format");
-    addRow("limit within a letter", longName + QStringLiteral("@xx.yyyé"), "not ASCII");
-    addRow("endless", QString(1000000, '.') + '@', "format");
-}
-
-void TestEmailCheck::finds()
-{
-    const QStringList faults = {"none", "double quote", "empty", "format", "blank", "not ASCII"};
-    QFETCH(QString, address);
-    QTEST(faults[int(checkEmail(address))], "fault");
-}
-
-static const FunctionTests::Entry<TestEmailCheck> entry;
-
-#include "emailcheck.moc"

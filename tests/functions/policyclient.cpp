@@ -11,7 +11,6 @@
 namespace {
 
 constexpr int settleMs = 400;
-constexpr int megabyte = 1 << 20;
 constexpr int shownLength = 20; // of a message: one is huge
 
 struct Answer
@@ -76,6 +75,68 @@ void startServer(QProcess *server, quint16 port, const QString &command)
     QTRY_VERIFY((probe.abort(), probe.connectToHost("127.0.0.1", port), probe.waitForConnected()));
 }
 
+/// Stale or not for host h, port 9094, user "ann lee"; what stands behind the tag.
+QStringList tag(const QStringList &in)
+{
+    const bool stale = PolicyReply::isStale(in[0], "h", "9094", "ann lee");
+    return {stale ? "stale" : "", PolicyReply::withoutTag(in[0])};
+}
+
+const FunctionTests::Table tags("TestPolicyClient", 1, tag, R"(
+same login                  | <https://h:9094 ann lee>{}       |       | {}
+angle brackets in the body  | <https://h:9094 ann lee><p>a</p> |       | <p>a</p>
+empty body                  | <https://h:9094 ann lee>         |       |
+other server                | <https://i:9094 ann lee>{}       | stale | {}
+other port                  | <https://h:9095 ann lee>{}       | stale | {}
+other user                  | <https://h:9094 ann>{}           | stale | {}
+upper case                  | <https://H:9094 ann lee>{}       | stale | {}
+address with colons         | <https://[::1]:9094 ann lee>{}   | stale | {}
+no tag                      | {}                               |       | {}
+tag of something else       | <p>{}                            |       | {}
+)");
+
+/// Color, leanprint, duplex; before they are On Off On.
+QStringList policiesAfter(const QStringList &in)
+{
+    Policies policies{{"FKPColorMode", "On"}, {"FKPLeanprint", "Off"}, {"FKPDuplex", "On"}};
+    const bool accepted = PolicyReply::parsePolicies(in[0], &policies);
+    return {accepted ? "accepted" : "refused", policies["FKPColorMode"] + ' ' +
+                                                   policies["FKPLeanprint"] + ' ' +
+                                                   policies["FKPDuplex"]};
+}
+
+const FunctionTests::Table policies("TestPolicyClient", 1, policiesAfter, R"(
+all three              | {"Policies":{"JE.FullColorPrint":"ON","DR.LeanPrintRestriction":"PV.On","DR.DuplexRestriction":"PV.On"}} | accepted | On On On
+none of them named     | {"Policies":{}}                                                              | accepted | On Off On
+one lifted, one added  | {"Policies":{"JE.FullColorPrint":"OFF","DR.LeanPrintRestriction":"PV.On"}}   | accepted | Off On On
+other case             | {"Policies":{"JE.FullColorPrint":"on","DR.DuplexRestriction":"PV.ON"}}       | accepted | Off Off Off
+no strings             | {"Policies":{"JE.FullColorPrint":true,"DR.DuplexRestriction":null}}          | accepted | Off Off Off
+policies are a list    | {"Policies":["JE.FullColorPrint"]}                                           | accepted | On Off On
+no policies            | {"policies":{"JE.FullColorPrint":"ON"}}                                      | refused  | Off Off Off
+a list                 | [{"Policies":{}}]                                                            | refused  | Off Off Off
+cut off                | {"Policies":{"JE.FullColorPrint":"ON"                                        | refused  | Off Off Off
+no JSON                | INVALID_USER_NAME_OR_PASSWORD                                                | refused  | Off Off Off
+ten megabytes          | ({){10000000}  | refused | Off Off Off
+ten megabytes of lists | [{10000000}    | refused | Off Off Off
+)");
+
+/// How the report begins when the user has pressed Verify, and when not.
+QStringList firstWords(const QStringList &in)
+{
+    return {PolicyReply::report(in[0], true).section(' ', 0, 1),
+            PolicyReply::report(in[0], false).section(' ', 0, 1)};
+}
+
+const FunctionTests::Table reports("TestPolicyClient", 1, firstWords, R"(
+accepted                     | {"Policies":{}}                              | Server and     |
+refused, as text             | INVALID_USER_NAME_OR_PASSWORD                | Login failed.  | Login failed.
+refused, as JSON             | {"e":"INVALID_USER_NAME_OR_PASSWORD"}        | Server and     | Login failed.
+may not print                | {"Policies":{"JE.MonoPrint":"ON"}}           | You do         | You do
+may not print, with blanks   | {"JE.MonoPrint": "ON"}                       | Server and     |
+refused and may not print    | INVALID_USER_NAME_OR_PASSWORD "JE.MonoPrint":"ON" | You do    | You do
+nonsense                     | <html>                                       | An unspecified |
+)");
+
 } // namespace
 
 class TestPolicyClient : public QObject
@@ -83,40 +144,9 @@ class TestPolicyClient : public QObject
     Q_OBJECT
 
 private slots:
-    void logins();
     void answers();
     void unreachable();
-    void tags_data();
-    void tags();
-    void policies_data();
-    void policies();
-    void reports_data();
-    void reports();
 };
-
-void TestPolicyClient::logins()
-{
-    QProcess server;
-    startServer(&server, 9095, "printf 'HTTP/1.1 200 OK\\r\\n\\r\\n'; tail -n 1");
-    Client client;
-    // What is typed arrives: name, password, and the body of the request.
-    const QStringList rows[] = {
-        {"ann", "x&y=z#? +;/\"\\", "userID=ann&userPWD=x&y=z#? +;/\"\\"},
-        {"ann", "100%&=#", "userID=ann&userPWD=100%&=#"},
-        {"a%b&c", "Ωß€%2", "userID=a%b&c&userPWD=Ωß€%2"},
-        {"%41nn", "%41%2f%25%00", "userID=%41nn&userPWD=%41%2f%25%00"},
-        {"%1", "50% %2B", "userID=%1&userPWD=50% %2B"},
-        {QString(), QString(), "userID=&userPWD="},
-    };
-    for (const QStringList &row : rows) {
-        client.curl.post("https://127.0.0.1:9095", row[0], row[1]);
-        QTRY_COMPARE(client.messages.size(), 1);
-        const QString tag = QString("<https://127.0.0.1:9095 ") + row[0] + '>';
-        QCOMPARE(client.messages.takeFirst().first().toString(), tag + row[2]);
-    }
-    server.kill();
-    server.waitForFinished();
-}
 
 void TestPolicyClient::answers()
 {
@@ -182,86 +212,6 @@ void TestPolicyClient::unreachable()
     QTest::qWait(settleMs);
     QCOMPARE(client.errors.size(), hosts.size());
     QCOMPARE(client.messages.size(), 0);
-}
-
-void TestPolicyClient::tags_data()
-{
-    // Stale or not for host h, port 9094, user "ann lee".
-    addRows({"message", "stale", "body"}, R"(
-same login                  | <https://h:9094 ann lee>{}       | 0 | {}
-angle brackets in the body  | <https://h:9094 ann lee><p>a</p> | 0 | <p>a</p>
-empty body                  | <https://h:9094 ann lee>         | 0 |
-other server                | <https://i:9094 ann lee>{}       | 1 | {}
-other port                  | <https://h:9095 ann lee>{}       | 1 | {}
-other user                  | <https://h:9094 ann>{}           | 1 | {}
-upper case                  | <https://H:9094 ann lee>{}       | 1 | {}
-address with colons         | <https://[::1]:9094 ann lee>{}   | 1 | {}
-no tag                      | {}                               | 0 | {}
-tag of something else       | <p>{}                            | 0 | {}
-)");
-}
-
-void TestPolicyClient::tags()
-{
-    QFETCH(QString, message);
-    QTEST(QString::number(PolicyReply::isStale(message, "h", "9094", "ann lee")), "stale");
-    QTEST(PolicyReply::withoutTag(message), "body");
-    // Over several lines it is the same.
-    QVERIFY(PolicyReply::isStale("<https://h:9094 ann>\n{\n}", "h", "9094", "ann lee"));
-    QCOMPARE(PolicyReply::withoutTag("<t>{\n\"a\":1}\n"), QString("{\n\"a\":1}\n"));
-}
-
-void TestPolicyClient::policies_data()
-{
-    // Color, leanprint, duplex; before they are On Off On.
-    addRows({"body", "accepted", "after"}, R"(
-all three              | {"Policies":{"JE.FullColorPrint":"ON","DR.LeanPrintRestriction":"PV.On","DR.DuplexRestriction":"PV.On"}} | 1 | On On On
-none of them named     | {"Policies":{}}                                                              | 1 | On Off On
-one lifted, one added  | {"Policies":{"JE.FullColorPrint":"OFF","DR.LeanPrintRestriction":"PV.On"}}   | 1 | Off On On
-other case             | {"Policies":{"JE.FullColorPrint":"on","DR.DuplexRestriction":"PV.ON"}}       | 1 | Off Off Off
-no strings             | {"Policies":{"JE.FullColorPrint":true,"DR.DuplexRestriction":null}}          | 1 | Off Off Off
-policies are a list    | {"Policies":["JE.FullColorPrint"]}                                           | 1 | On Off On
-no policies            | {"policies":{"JE.FullColorPrint":"ON"}}                                      | 0 | Off Off Off
-a list                 | [{"Policies":{}}]                                                            | 0 | Off Off Off
-cut off                | {"Policies":{"JE.FullColorPrint":"ON"                                        | 0 | Off Off Off
-no JSON                | INVALID_USER_NAME_OR_PASSWORD                                                | 0 | Off Off Off
-)");
-    for (const char *sign : {"{", "["})
-        addRow(sign, QString(sign).repeated(10 * megabyte), QString("0"), QString("Off Off Off"));
-}
-
-void TestPolicyClient::policies()
-{
-    QFETCH(QString, body);
-    Policies policies{{"FKPColorMode", "On"}, {"FKPLeanprint", "Off"}, {"FKPDuplex", "On"}};
-    QTEST(QString::number(PolicyReply::parsePolicies(body, &policies)), "accepted");
-    QCOMPARE(policies.size(), 3);
-    QTEST(policies["FKPColorMode"] + ' ' + policies["FKPLeanprint"] + ' ' + policies["FKPDuplex"],
-          "after");
-}
-
-void TestPolicyClient::reports_data()
-{
-    // How the report begins when the user has pressed Verify, and when not.
-    addRows({"body", "asked", "silent"}, R"(
-accepted                     | {"Policies":{}}                              | Server and     |
-refused, as text             | INVALID_USER_NAME_OR_PASSWORD                | Login failed.  | Login failed.
-refused, as JSON             | {"e":"INVALID_USER_NAME_OR_PASSWORD"}        | Server and     | Login failed.
-may not print                | {"Policies":{"JE.MonoPrint":"ON"}}           | You do         | You do
-may not print, with blanks   | {"JE.MonoPrint": "ON"}                       | Server and     |
-refused and may not print    | INVALID_USER_NAME_OR_PASSWORD "JE.MonoPrint":"ON" | You do    | You do
-nonsense                     | <html>                                       | An unspecified |
-)");
-}
-
-void TestPolicyClient::reports()
-{
-    QFETCH(QString, body);
-    const auto firstWords = [&](bool asked) {
-        return PolicyReply::report(body, asked).section(' ', 0, 1);
-    };
-    QTEST(firstWords(true), "asked");
-    QTEST(firstWords(false), "silent");
 }
 
 static const FunctionTests::Entry<TestPolicyClient> entry;

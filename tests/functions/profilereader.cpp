@@ -13,6 +13,20 @@ namespace {
 
 const QString ppdFolder = "/usr/share/brixola/ppd6/";
 
+QStringList ppdOfModel(const QStringList &in)
+{
+    return {profilePpdPath(in[0]).section(ppdFolder, 1)};
+}
+
+const FunctionTests::Table models("TestProfileReader", 1, ppdOfModel, R"(
+blank        | [Brixola PX-4500]       | Brixola_PX-4500.ppd
+RATEX        | [NV-RATEX 200]          | NV_200.ppd
+BRXL         | [Brixola BRXL 300 BRXL] | Brixola_300.ppd
+no word BRXL | [Brixola 300BRXL]       | Brixola_300BRXL.ppd
+B/W          | [Sorbelli 20 B/W B/W]   | Sorbelli_20_Monochrome_Monochrome.ppd
+brackets     | [Brixola [2]  x]        | Brixola_2__x.ppd
+)");
+
 } // namespace
 
 class TestProfileReader : public QObject
@@ -20,31 +34,11 @@ class TestProfileReader : public QObject
     Q_OBJECT
 
 private slots:
-    void ppdOfModel_data();
-    void ppdOfModel();
     void rubbish_data();
     void rubbish();
     void standardButtons_data();
     void standardButtons();
 };
-
-void TestProfileReader::ppdOfModel_data()
-{
-    addRows({"line", "file"}, R"(
-blank        | [Brixola PX-4500]       | Brixola_PX-4500
-RATEX        | [NV-RATEX 200]          | NV_200
-BRXL         | [Brixola BRXL 300 BRXL] | Brixola_300
-no word BRXL | [Brixola 300BRXL]       | Brixola_300BRXL
-B/W          | [Sorbelli 20 B/W B/W]   | Sorbelli_20_Monochrome_Monochrome
-brackets     | [Brixola [2]  x]        | Brixola_2__x)");
-}
-
-void TestProfileReader::ppdOfModel()
-{
-    QFETCH(QString, line);
-    QFETCH(QString, file);
-    QCOMPARE(profilePpdPath(line), ppdFolder + file + ".ppd");
-}
 
 void TestProfileReader::rubbish_data()
 {

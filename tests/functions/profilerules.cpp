@@ -3,50 +3,43 @@
 #include "profiles/profilerules.h"
 
 #include "functiontests.h"
-#include "support/testhelpers.h"
 
-Q_DECLARE_METATYPE(ProfileFault)
-
-class TestProfileRules : public QObject
+static QStringList fault(const QStringList &in)
 {
-    Q_OBJECT
-
-private slots:
-    void validity_data();
-    void validity();
-};
-
-void TestProfileRules::validity_data()
-{
-    addColumns<QString, QString, ProfileFault>("name", "description", "fault");
-    addRow("none", "", "", ProfileFault::NoName);
-    addRow("leading blank, single quotes and shell signs", " -rf Bob's “$(x)” & <b> \\n *", "",
-           ProfileFault::None);
-    addRow("hidden file", ".Draft", "", ProfileFault::Characters);
-    addRow("dot inside", "Draft.cfg", "", ProfileFault::None);
-    addRow("slash", "../Draft", "", ProfileFault::Characters);
-    addRow("double quote", "5\" label", "", ProfileFault::Characters);
-    addRow("backquote", "a`b", "", ProfileFault::Characters);
-    addRow("semicolon", "a;b", "", ProfileFault::Characters);
-    addRow("a queue's in other case", "oFFice_c3", "", ProfileFault::Reserved);
-    addRow("251 bytes", QString(125, QChar(0xe4)) + 'a', "", ProfileFault::None);
-    addRow("252 bytes in fewer letters", QString(126, QChar(0xe4)), "", ProfileFault::TooLong);
-    addRow("longest description", "a", QString(1024, '\n'), ProfileFault::None);
-    addRow("too long a description", "a", QString(1025, 'd'), ProfileFault::TooLong);
-    // The factory entry's name in each language.
-    for (const char *reserved :
-         {"  factory \t default ", "Paramètres du fabricant", "Werkseinstellung",
-          "Impostazioni fabbrica", "Valor predeterminado de fábrica", "PADRÃO DE FÁBRICA"})
-        addRow(reserved, reserved, "", ProfileFault::Reserved);
-    addRow("longer than a reserved name", "Werkseinstellung 2", "", ProfileFault::None);
+    switch (profileFault(in[0], in[1], {"Office_C3"})) {
+    case ProfileFault::NoName:
+        return {"no name"};
+    case ProfileFault::Reserved:
+        return {"reserved"};
+    case ProfileFault::Characters:
+        return {"characters"};
+    case ProfileFault::TooLong:
+        return {"too long"};
+    case ProfileFault::None:
+        break;
+    }
+    return {"valid"};
 }
 
-void TestProfileRules::validity()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, description);
-    QTEST(profileFault(name, description, {"Office_C3"}), "fault");
-}
-
-static const FunctionTests::Entry<TestProfileRules> entry;
-#include "profilerules.moc"
+static const FunctionTests::Table table("TestProfileRules", 2, fault, R"(
+none                        |                             |         | no name
+leading blank, shell signs  | ( ){1}-rf Bob's “$(x)” & <b> \n *  |   | valid
+hidden file                 | .Draft                      |         | characters
+dot inside                  | Draft.cfg                   |         | valid
+slash                       | ../Draft                    |         | characters
+double quote                | 5" label                    |         | characters
+backquote                   | a`b                         |         | characters
+semicolon                   | a;b                         |         | characters
+a queue's in other case     | oFFice_c3                   |         | reserved
+251 bytes                   | ä{125}a                     |         | valid
+252 bytes in fewer letters  | ä{126}                      |         | too long
+longest description         | a                           | d{1024} | valid
+too long a description      | a                           | d{1025} | too long
+factory entry, with blanks  | ( ){2}factory ( ){2}default ( ){1} |  | reserved
+of a French user            | Paramètres du fabricant     |         | reserved
+of a German user            | Werkseinstellung            |         | reserved
+of an Italian user          | Impostazioni fabbrica       |         | reserved
+of a Spanish user           | Valor predeterminado de fábrica |     | reserved
+of a Portuguese user        | PADRÃO DE FÁBRICA           |         | reserved
+longer than a reserved name | Werkseinstellung 2          |         | valid
+)");

@@ -1,24 +1,19 @@
 #include "functiontests.h"
 #include "pages/finishing/finishingtab.h"
 
-class TestRotateTitle : public QObject
+static QStringList rotateTitle(const QStringList &in)
 {
-    Q_OBJECT
-
-private slots:
-    void languages();
-};
-
-void TestRotateTitle::languages()
-{
-    QStringList titles;
-    for (const char *locale : {"en_US", "fr_CA", "de_DE", "it_IT", "pt_BR", "es_ES", "ja_JP", "C"})
-        titles << FinishingTab::rotateTitle(locale).section(' ', 0, 0);
-    QCOMPARE(titles.join(' '),
-             QString("Rotate Tourner Rotiert Ruotato Girar Girado Rotate Rotate"));
-    QCOMPARE(FinishingTab::rotateTitle("fr"), QString::fromUtf8("Tourner 180°"));
+    return {FinishingTab::rotateTitle(in[0])};
 }
 
-static const FunctionTests::Entry<TestRotateTitle> entry;
-
-#include "rotatetitle.moc"
+static const FunctionTests::Table table("TestRotateTitle", 1, rotateTitle, R"(
+English    | en_US | Rotate 180°
+French     | fr_CA | Tourner 180°
+no country | fr    | Tourner 180°
+German     | de_DE | Rotiert 180°
+Italian    | it_IT | Ruotato 180°
+Portuguese | pt_BR | Girar 180°
+Spanish    | es_ES | Girado 180°
+another    | ja_JP | Rotate 180°
+none       | C     | Rotate 180°
+)");

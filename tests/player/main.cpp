@@ -24,10 +24,13 @@ bool compare(const QString &path, const Case &wanted, const Case &found)
     bool same = true;
     for (int i = 0; i < wanted.steps.size(); ++i) {
         const CaseStep &step = wanted.steps[i];
-        if (step.expected == found.steps[i].expected)
+        const QString text = found.steps[i].text;
+        if (step.expected == found.steps[i].expected && step.text == text)
             continue;
         same = false;
         out << path << ':' << step.line << ": " << step.text << '\n';
+        if (step.text != text)
+            out << "  + " << text << '\n';
         for (const QString &line : step.expected)
             if (!found.steps[i].expected.contains(line))
                 out << "  - " << line << '\n';

@@ -52,22 +52,16 @@ QString valueOf(const QStringList &step)
     return verb == "choose" || verb == "pick" ? step.value(2) : QString();
 }
 
-QStringList windowChanges(const PanelState &before, const PanelState &after, bool quiet)
+/// Whether a widget's value ends with a word on its look.
+bool looks(const QString &value, const QString &look)
 {
-    QStringList lines;
-    for (auto entry = after.begin(); entry != after.end(); ++entry) {
-        const QString &key = entry.key();
-        const bool isOfFront = key == "title" || key == "message" || key == "nameless";
-        if ((!before.contains(key) && !isOfFront) || before.value(key) == entry.value() ||
-            (quiet && (isOfWidget(key) || entry.value().startsWith("Brixola Press Desk"))) ||
-            (before.value(key).endsWith(" hidden") && entry.value().endsWith(" hidden")))
-            continue;
-        if (key.endsWith(".items") || key.endsWith(".blocked"))
-            addListChange(key, before.value(key), entry.value(), &lines);
-        else
-            lines.append(key + ": " + entry.value());
-    }
-    return lines;
+    return value.section(' ', look == "hidden" ? -1 : -2).split(' ').contains(look);
+}
+
+QString withoutLook(QString value)
+{
+    static const QRegularExpression look("(^| )grey$|(^| )(grey )?hidden$");
+    return value.remove(look);
 }
 
 /// The lines that are new and, with "-" in front, the keys that are gone.
@@ -117,16 +111,16 @@ QStringList fileChanges(const QMap<QString, QStringList> &before,
     return lines;
 }
 
-/// Several changes to a line, as long as it can be read.
-QStringList joined(const QStringList &changes)
+/// As many to a line as can be read.
+QStringList joined(const QStringList &parts, const QString &separator = "; ")
 {
     constexpr int width = 110;
     QStringList lines;
-    for (const QString &change : changes) {
-        if (lines.isEmpty() || lines.last().size() + change.size() > width)
-            lines.append(change);
+    for (const QString &part : parts) {
+        if (lines.isEmpty() || lines.last().size() + part.size() > width)
+            lines.append(part);
         else
-            lines.last() += "; " + change;
+            lines.last() += separator + part;
     }
     return lines;
 }
@@ -146,15 +140,16 @@ Case Player::play(const Case &preamble, const Case &wanted)
     arguments.clear();
     shown.clear();
     mainTitle.clear();
+    told.clear();
     hasEnded = false;
     Case played = wanted;
     const QString error = world.reset();
     saved = world.files();
     QStringList failed = error.isEmpty() ? QStringList() : QStringList(error);
-    for (const CaseStep &step : preamble.steps)
-        failed += stepResult(step);
+    for (CaseStep step : preamble.steps)
+        failed += stepResult(&step);
     for (CaseStep &step : played.steps) {
-        step.expected = failed + stepResult(step);
+        step.expected = failed + stepResult(&step);
         failed.clear();
     }
     // What should have closed would not show otherwise.
@@ -189,21 +184,22 @@ void Player::prepareEnvironment()
         panel.environment.insert(name, value);
 }
 
-QStringList Player::stepResult(const CaseStep &step)
+QStringList Player::stepResult(CaseStep *step)
 {
-    const QStringList words = QProcess::splitCommand(step.text);
+    const QStringList words = QProcess::splitCommand(step->text);
     const QString verb = words.value(0);
     static const QStringList ofWorld{"queue", "ppd", "saved", "file", "command", "env", "run"};
     QStringList lines;
     if (ofWorld.contains(verb)) {
-        lines = worldStep(verb, words, step);
+        lines = worldStep(verb, words, *step);
         // A step of the surroundings may change what the panel is to be compared with later.
         if (!panel.isRunning())
             saved = world.files();
-    } else if (verb == "show") {
-        lines = show(words.mid(1));
+    } else if (verb == "=") {
+        lines = startIfNeeded();
+        step->text = "= " + show(step->text.mid(2)).join("\n= ");
     } else {
-        lines = panelStep(verb, step.text);
+        lines = panelStep(verb, step->text);
     }
     for (QString line : panel.complaints()) {
         // Qt's remarks on the surroundings of a test. That on the seed has no end of its line.
@@ -220,7 +216,12 @@ QStringList Player::worldStep(const QString &verb, const QStringList &words, con
 {
     const QString name = words.value(1);
     QString error;
-    if (verb == "queue")
+    if (verb == "queue" && !step.block.isEmpty()) {
+        // With a PPD of its own.
+        const QString ppd = name + ".ppd";
+        error = world.addPpd(ppd, step.block);
+        error += world.addQueue(QStringList{name, ppd} + words.mid(2));
+    } else if (verb == "queue")
         error = world.addQueue(words.mid(1));
     else if (verb == "ppd")
         error = world.addPpd(name, step.block);
@@ -252,74 +253,155 @@ QStringList Player::startPanel()
     return panel.start(command) ? QStringList() : QStringList("error: " + panel.error());
 }
 
+/// Nobody has to write the step that says what goes without saying.
+QStringList Player::startIfNeeded()
+{
+    if (panel.isRunning() || hasEnded)
+        return {};
+    const QStringList lines = startPanel();
+    shown = panel.state();
+    return lines;
+}
+
 QStringList Player::panelStep(const QString &verb, const QString &line)
 {
     QStringList lines;
-    const bool restarts = verb == "start" || verb == "restart";
+    QStringList words = QProcess::splitCommand(line);
     if (verb == "start")
-        arguments = QProcess::splitCommand(line).mid(1);
-    if (restarts) {
+        arguments = words.mid(1);
+    if (verb == "start" || verb == "restart") {
         lines = openDialog();
         panel.stop();
-    }
-    if (restarts || (!panel.isRunning() && !hasEnded)) {
         lines += startPanel();
-        // Nobody has to write the step that says what goes without saying.
-        if (restarts || !lines.isEmpty()) {
-            addChanges({}, true, &lines);
-            return lines;
-        }
-        shown = panel.state();
+        lines += changes({}, true);
+        if (verb == "start" || words.size() == 1)
+            return joined(lines + confirmed());
     }
+    lines += startIfNeeded();
     if (verb == "await") {
         QElapsedTimer clock;
         clock.start();
         while (lines.isEmpty() && clock.elapsed() < longestAwaitMs && panel.isRunning()) {
             QThread::msleep(20);
-            addChanges({}, false, &lines);
+            lines = changes({});
         }
-        return lines;
+        return joined(words.value(1) == "message" ? lines : lines + confirmed());
     }
-    QStringList answer;
-    const QString step = verb == "select"  ? "row tblPrinters" + line.mid(6)
-                         : verb == "apply" ? "click Apply"
-                                           : line;
-    bool done = panel.send(step, &answer);
+    QString step = line;
+    if (verb == "select" || verb == "restart") {
+        words[0] = "select";
+        step = "row tblPrinters" + line.mid(verb.size());
+    } else if (verb == "apply") {
+        step = "click Apply";
+    }
+    if (!goToPageOf(verb == "select" ? "tblPrinters" : words.value(1)) || !panel.send(step))
+        return joined(lines) + QStringList("error: " + panel.error());
     if (verb == "apply" && panel.state().value("message") == "Settings applied.")
-        done = panel.send("click Ok", &answer);
-    if (!done) {
-        lines.append("error: " + panel.error());
-        return lines;
-    }
-    if (verb == "ask")
-        return answer;
-    addChanges(QProcess::splitCommand(line), verb == "select", &lines);
+        panel.send("click Ok");
+    lines += changes(words, words.first() == "select");
+    return joined(lines + confirmed());
+}
+
+/// What it leads to that a message has been read.
+QStringList Player::confirmed()
+{
+    QStringList lines;
+    while (platform == "offscreen" && shown.contains("message") && panel.send("click Ok"))
+        lines += changes({});
     return lines;
 }
 
-void Player::addChanges(const QStringList &step, bool quiet, QStringList *lines)
+/// Clicks the tab of the widget's page if another one is in front.
+bool Player::goToPageOf(const QString &word)
 {
+    QStringList page;
+    if (!panel.send("page \"" + QString(word).replace('"', "\"\"\"") + '"', &page))
+        return false;
+    if (page.first() == "-1")
+        return true;
+    const bool done = panel.send("tab #" + page.first());
+    shown["page"] = panel.state().value("page");
+    return done;
+}
+
+QStringList Player::changes(const QStringList &step, bool quiet)
+{
+    QStringList lines;
     const PanelState now = panel.state();
     if (now.isEmpty() && !hasEnded) {
         hasEnded = true;
-        lines->append("ended " + panel.end());
+        lines.append("ended " + panel.end());
     }
     const auto files = world.files();
     expect(step, now);
-    QStringList changes = windowChanges(shown, now, quiet) + fileChanges(saved, files);
+    lines += windowChanges(now, quiet) + fileChanges(saved, files);
     if (step.value(0) == "select") {
         // The first time it saves the defaults and publishes them.
         const QString cfg = step.value(1) + ".cfg";
         const QString published = "published " + step.value(1);
         if (!files.contains(cfg))
-            changes.append(cfg + ": none");
-        else if (changes.removeOne(cfg + ": new") && !changes.removeOne(published + ": new") &&
+            lines.append(cfg + ": none");
+        else if (lines.removeOne(cfg + ": new") && !lines.removeOne(published + ": new") &&
                  !files.contains(published))
-            changes.append(published + ": none");
+            lines.append(published + ": none");
     }
-    *lines += joined(changes);
     shown = now;
     saved = files;
+    return lines;
+}
+
+QStringList Player::windowChanges(const PanelState &after, bool quiet)
+{
+    QStringList lines;
+    QMap<QString, QStringList> otherLooks;
+    for (auto entry = after.begin(); entry != after.end(); ++entry) {
+        const QString &key = entry.key();
+        const QString &value = entry.value();
+        const QString before = shown.value(key);
+        const bool isOfFront = key == "title" || key == "message" || key == "nameless";
+        if ((!shown.contains(key) && !isOfFront) || before == value ||
+            (quiet && (isOfWidget(key) || value.startsWith("Brixola Press Desk"))) ||
+            (looks(before, "hidden") && looks(value, "hidden")))
+            continue;
+        if (key.endsWith(".items") || key.endsWith(".blocked")) {
+            addListChange(key, before, value, &lines);
+        } else if (!isOfFront && !isNews(key, before, value)) {
+            for (const char *look : {"grey", "hidden"}) {
+                if (looks(before, look) != looks(value, look))
+                    otherLooks[(looks(value, look) ? "" : "not ") + QString(look)].append(key);
+            }
+        } else {
+            told.insert(key + ": " + withoutLook(value));
+            lines.append(key + ": " + value);
+        }
+    }
+    for (auto entry = otherLooks.begin(); entry != otherLooks.end(); ++entry)
+        lines += lookLines(entry.key(), entry.value());
+    return lines;
+}
+
+/// Whether the value is to be said: it has changed, or can be used again and the case has not said
+/// it yet.
+bool Player::isNews(const QString &key, const QString &before, const QString &after) const
+{
+    const QString value = withoutLook(after);
+    const bool isValue = !key.startsWith("lbl") && value != "button" && value != "\"\"" &&
+                         value.compare(key, Qt::CaseInsensitive) != 0;
+    return withoutLook(before) != value ||
+           (isValue && after == value && !told.contains(key + ": " + value));
+}
+
+/// A list that a case has told already is known again by its first name and its length.
+QStringList Player::lookLines(const QString &look, const QStringList &names)
+{
+    const QString all = names.join(' ');
+    if (told.contains(all) && names.size() > 3)
+        return {QString("%1: %2 and %3 more").arg(look, names.first()).arg(names.size() - 1)};
+    told.insert(all);
+    QStringList lines = joined(names, ", ");
+    for (QString &line : lines)
+        line.prepend(look + ": ");
+    return lines;
 }
 
 /// Changes what is known to have been shown so that a step's own effect goes without saying, and
@@ -331,32 +413,52 @@ void Player::expect(const QStringList &step, const PanelState &now)
     const QString value = valueOf(step);
     if (!value.isNull() && shown.contains(step.value(1)))
         shown[step.value(1)] = value;
-    // A dialog that closes leads back to the window.
+    if (step.value(0) == "row") {
+        const QString row = now.value(step.value(1));
+        shown[step.value(1)] = row.contains(step.value(2)) ? row : QString("another row");
+    }
+    // A mark on any page is what greys these.
+    if (now.value("marked") != shown.value("marked")) {
+        for (const char *button : {"Apply", "Ok"})
+            shown[button] =
+                withoutLook(shown.value(button)) + (now.value("marked").isEmpty() ? "" : " grey");
+    }
+    // A dialog that closes leads back to the window, or to one that was there before.
     const QString title = now.value("title");
-    if (title == mainTitle)
+    const bool isMain = title.startsWith("Brixola Press Desk");
+    if (isMain ? title == mainTitle : told.contains(title))
         shown["title"] = title;
-    else if (title.startsWith("Brixola Press Desk"))
+    if (isMain)
         mainTitle = title;
+    else
+        told.insert(title);
 }
 
-QStringList Player::show(const QStringList &keys)
+/// `asked`: "KEY" or "KEY: VALUE" and so on, as it is answered.
+QStringList Player::show(const QString &asked)
 {
     QStringList lines;
-    for (const QString &key : keys) {
+    for (const QString &part : asked.split("; ")) {
+        const QString key = part.section(": ", 0, 0);
+        const QString file = key.section(':', 0, 0);
+        const QString widget = key.section('.', 0, -2);
+        QStringList answer;
         if (key.contains(':')) {
             // "FILE:KEY", a line of a file or of what is published.
             const QString start = key.section(':', 1) + '=';
-            const QStringList found =
-                saved.value(key.section(':', 0, 0))
-                    .filter(QRegularExpression('^' + QRegularExpression::escape(start)));
-            lines.append(found.isEmpty() ? key + ": none"
-                                         : key.section(':', 0, 0) + ": " + found.join(' '));
-        } else if (!shown.contains(key)) {
-            lines.append(key + ": not there");
+            for (const QString &line : saved.value(file))
+                if (line.startsWith(start))
+                    answer.append(line.mid(start.size()));
+            lines.append(key + ": " + (answer.isEmpty() ? "none" : answer.join('|')));
+        } else if (shown.contains(key)) {
+            const QString blocked = shown.value(key + ".blocked");
+            lines.append(key + ": " + shown.value(key) +
+                         (blocked.isEmpty() ? QString() : " blocks " + blocked));
+        } else if (!widget.isEmpty() &&
+                   panel.send("ask \"" + widget + "\" " + key.section('.', -1), &answer)) {
+            lines.append(key + ": " + answer.first());
         } else {
-            lines.append(key + ": " + shown.value(key));
-            if (!shown.value(key + ".blocked").isEmpty())
-                lines.append(key + " blocks " + shown.value(key + ".blocked"));
+            lines.append(key + ": not there");
         }
     }
     return joined(lines);

@@ -15,12 +15,18 @@ public:
     Case play(const Case &preamble, const Case &wanted);
 
 private:
-    QStringList stepResult(const CaseStep &step);
+    QStringList stepResult(CaseStep *step);
     QStringList worldStep(const QString &verb, const QStringList &words, const CaseStep &step);
     QStringList panelStep(const QString &verb, const QString &line);
     QStringList startPanel();
-    QStringList show(const QStringList &keys);
-    void addChanges(const QStringList &step, bool quiet, QStringList *lines);
+    QStringList startIfNeeded();
+    QStringList confirmed();
+    bool goToPageOf(const QString &word);
+    QStringList show(const QString &asked);
+    QStringList changes(const QStringList &step, bool quiet = false);
+    QStringList windowChanges(const PanelState &after, bool quiet);
+    bool isNews(const QString &key, const QString &before, const QString &after) const;
+    QStringList lookLines(const QString &look, const QStringList &names);
     void expect(const QStringList &step, const PanelState &now);
     QStringList openDialog() const;
     void prepareEnvironment();
@@ -30,7 +36,8 @@ private:
     PanelProcess panel;
     QStringList arguments;
     PanelState shown;
-    QString mainTitle; ///< what the main window was called last
+    QString mainTitle;  ///< what the main window was called last
+    QSet<QString> told; ///< titles of dialogs, values, and lists of widgets that look otherwise
     QMap<QString, QStringList> saved;
     bool hasEnded = false;
 };

@@ -2,31 +2,19 @@
 
 #include "model/boption.h"
 #include "model/optionstore.h"
-#include "storage/settingsfile.h"
 #include "support/storebuilder.h"
 
-#include <QFile>
-
 #include <utility>
-
-RecordingDialog::RecordingDialog()
-{
-    currentCfgPath = directory.filePath("queue.cfg");
-}
 
 RecordingDialog::~RecordingDialog()
 {
     currentStore = nullptr;
-    currentCfgPath.clear();
 }
 
-void RecordingDialog::selectPrinter(const QString &options, const QString &settings)
+void RecordingDialog::selectPrinter(const QString &options)
 {
-    stores.push_back(makeStore(options));
-    currentStore = stores.back().get();
-    QFile file(currentCfgPath);
-    if (!file.open(QIODevice::WriteOnly) || file.write(settings.toUtf8()) < 0)
-        qFatal("can't write %s", qPrintable(currentCfgPath));
+    store = makeStore(options);
+    currentStore = store.get();
 }
 
 QString RecordingDialog::current(const QString &keyword)

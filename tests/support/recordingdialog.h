@@ -3,11 +3,9 @@
 #include "pages/base/paneldialog.h"
 
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <functional>
 #include <memory>
-#include <vector>
 
 class OptionStore;
 
@@ -18,12 +16,11 @@ class RecordingDialog : public PanelDialog
     Q_OBJECT
 
 public:
-    RecordingDialog();
     ~RecordingDialog() override;
 
-    /// Makes a printer with these options (see makeStore()) the current one, with these lines in
-    /// its settings file. Reloads no page.
-    void selectPrinter(const QString &options, const QString &settings = QString());
+    /// Makes a printer with these options (see makeStore()) the current one, of which nothing is
+    /// saved. Reloads no page.
+    void selectPrinter(const QString &options);
     /// The key of the selected choice, as the current printer's model has it.
     static QString current(const QString &keyword);
 
@@ -45,6 +42,5 @@ private:
     void note(const QString &slot);
 
     QStringList calls;
-    QTemporaryDir directory;
-    std::vector<std::unique_ptr<OptionStore>> stores; // pages may look back at an older one
+    std::unique_ptr<OptionStore> store;
 };
