@@ -55,9 +55,9 @@ BusyGuard::BusyGuard()
 BusyGuard::~BusyGuard()
 {
     QApplication::restoreOverrideCursor();
-    for (const QPointer<QWidget> &window : qAsConst(closing)) {
+    for (QWidget *window : qAsConst(closing)) {
         if (window)
-            QTimer::singleShot(0, window, [=] { closeUnlessBlocked(window); });
+            QTimer::singleShot(0, window, [window] { closeUnlessBlocked(window); });
     }
 }
 

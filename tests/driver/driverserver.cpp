@@ -30,12 +30,18 @@ int loopLevel()
     return QThread::currentThread()->loopLevel();
 }
 
+// Longer than commands take that are well.
+constexpr int patienceMs = 3000;
+constexpr int statusPatienceMs = 1000;
+
 /// Whether the panel has a command at work: it shows so by its pointer, or the status of a printer
 /// is due.
-bool isWaitingForCommand()
+bool isWaitingForCommand(const QDeadlineTimer &patience)
 {
     if (QGuiApplication::overrideCursor())
-        return true;
+        return !patience.hasExpired();
+    if (patience.remainingTime() < patienceMs - statusPatienceMs)
+        return false;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (const QWidget *window : windows) {
         const auto notifiers = window->findChildren<QSocketNotifier *>();
@@ -48,7 +54,6 @@ bool isWaitingForCommand()
 
 constexpr int quietRoundsWanted = 2;
 constexpr int maxRounds = 3000;
-constexpr int patienceMs = 1000; // longer than a command takes that is well
 
 } // namespace
 
@@ -112,8 +117,7 @@ void DriverServer::sendStateWhenIdle(int quietRounds, int roundsLeft,
     } else {
         QTimer::singleShot(roundMs(), this, [=] {
             // Events run between the keys of a step too.
-            const bool acting =
-                m_actionLevel == loopLevel() || (!patience.hasExpired() && isWaitingForCommand());
+            const bool acting = m_actionLevel == loopLevel() || isWaitingForCommand(patience);
             const bool busy = acting || QAbstractEventDispatcher::instance()->hasPendingEvents();
             sendStateWhenIdle(busy ? 0 : quietRounds + 1, acting ? roundsLeft : roundsLeft - 1,
                               patience);
