@@ -285,7 +285,9 @@ void BixDialog::fitToScreen()
     setFixedSize(width() + area->verticalScrollBar()->sizeHint().width(), room);
     setBackground();
     connect(qApp, &QApplication::focusChanged, area, [area](QWidget *, QWidget *now) {
-        if (now && area->isAncestorOf(now) && now != area->widget())
+        // Under a pressed button nothing may move away.
+        if (now && QApplication::mouseButtons() == Qt::NoButton && area->isAncestorOf(now) &&
+            now != area->widget())
             area->ensureWidgetVisible(now);
     });
 }

@@ -62,8 +62,12 @@ void ChangeReport::noteSender(const QObject *sender)
 
 void ChangeReport::startOver()
 {
-    startingOver = true;
+    startingOver = currentStore;
     watch.restart(currentStore);
+    if (!currentStore) {
+        tabs->clearDots();
+        notice->forget();
+    }
 }
 
 void ChangeReport::settle()

@@ -7,14 +7,14 @@ env LAUNCHER=/tmp/play/bin/low-screen
 
 == what is far down comes into sight with the focus
 start
-= BixDialog.height
+= BixDialog.height: 415
 select Office
 tab Watermark
 check chkButWatermark
-> butSaveCustomWatermark: button; chkBxWFlg: off; cmbBxClr: Black; cmbBxWFnt: Helvetica; cmbBxWang: 50
-> cmbBxWsze: 72; cmbBxWtrans: Transparent; cmbBxWtxt: CONFIDENTIAL; cmbBxWtyp: Solid
-> lblCustomWatermark: "Custom watermark:"; lblWClr: "Color:"; lblWFnt: "Font:"; lblWSze: "Size:"
-> lblWang: "Angle:"; lblWtrans: "Style:"; lblWtxt: "Text:"; lblWtyp: "Fill:"; lnEditCustomWatermark: ""
-= BixTabWidget.y
+> chkBxWFlg: off; cmbBxClr: Black; cmbBxWFnt: Helvetica; cmbBxWang: 50; cmbBxWsze: 72; cmbBxWtrans: Transparent
+> cmbBxWtxt: CONFIDENTIAL; cmbBxWtyp: Solid
+> not grey: butSaveCustomWatermark, lblCustomWatermark, lblWClr, lblWFnt, lblWSze, lblWang, lblWtrans, lblWtxt, lblWtyp
+> not grey: lnEditCustomWatermark
+= BixTabWidget.y: -58
 press F6 F6 F6 Shift+Tab Shift+Tab Shift+Tab
-= @focus.accessibleName; BixTabWidget.y
+= @focus.accessibleName: butSaveCustomWatermark; BixTabWidget.y: -23

@@ -41,6 +41,8 @@ QWidget *find(const QString &word, bool visible)
 {
     if (word.isEmpty())
         return nullptr;
+    if (word == "@focus")
+        return visible ? QApplication::focusWidget() : nullptr;
     const QList<QWidget *> windows = windowsFrontToBack();
     for (QWidget *window : windows) {
         QList<QWidget *> candidates = window->findChildren<QWidget *>();

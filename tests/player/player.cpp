@@ -455,7 +455,7 @@ QStringList Player::show(const QString &asked)
             lines.append(key + ": " + shown.value(key) +
                          (blocked.isEmpty() ? QString() : " blocks " + blocked));
         } else if (!widget.isEmpty() &&
-                   panel.send("ask \"" + widget + "\" " + key.section('.', -1), &answer)) {
+                   panel.send("ask \"" + widget + "\" \"" + key.section('.', -1) + '"', &answer)) {
             lines.append(key + ": " + answer.first());
         } else {
             lines.append(key + ": not there");
