@@ -333,8 +333,11 @@ QStringList Player::changes(const QStringList &step, bool quiet)
         lines.append("ended " + panel.end());
     }
     const auto files = world.files();
+    // Much comes with another printer, also with one that was selected by a key.
+    const QString title = now.value("title");
+    const bool isOther = title.startsWith("Brixola Press Desk - ") && title != mainTitle;
     expect(step, now);
-    lines += windowChanges(now, quiet) + fileChanges(saved, files);
+    lines += windowChanges(now, quiet || isOther) + fileChanges(saved, files);
     if (step.value(0) == "select") {
         // The first time it saves the defaults and publishes them.
         const QString cfg = step.value(1) + ".cfg";
