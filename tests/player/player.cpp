@@ -335,7 +335,8 @@ QStringList Player::changes(const QStringList &step, bool quiet)
     const auto files = world.files();
     // Much comes with another printer, also with one that was selected by a key.
     const QString title = now.value("title");
-    const bool isOther = title.startsWith("Brixola Press Desk - ") && title != mainTitle;
+    const bool isOther = step.value(0) == "press" && title != mainTitle &&
+                         title.startsWith("Brixola Press Desk - ");
     expect(step, now);
     lines += windowChanges(now, quiet || isOther) + fileChanges(saved, files);
     if (step.value(0) == "select") {
