@@ -12,6 +12,7 @@ packages=(
     cups-daemon cups-client bubblewrap xvfb sudo openssl fonts-dejavu-core
     # benchmarks and checks
     libbenchmark-dev clang-format clang-tidy python3
+    lintian desktop-file-utils appstream man-db
 )
 # Command and package of what may well come from elsewhere than a package.
 commands=(g++:g++ cmake:cmake git:git)

@@ -19,7 +19,7 @@ bool isOn(const OptionChoice &choice)
 QString OptionLabels::label(const bOption &option) const
 {
     for (const Tab *page : pages) {
-        const QString text = page->label(option.key());
+        QString text = page->label(option.key());
         if (!text.isEmpty())
             return text;
     }

@@ -12,7 +12,7 @@ QString Tab::label(const QString &keyword) const
 {
     for (const WidgetMap *widgets : {&markWidgets, &boundWidgets}) {
         const QWidget *widget = widgets->value(keyword);
-        const QString text = PageWidgets::withoutColon(Binding::of(widget).label(widget));
+        QString text = PageWidgets::withoutColon(Binding::of(widget).label(widget));
         if (!text.isEmpty())
             return text;
     }
