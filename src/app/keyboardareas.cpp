@@ -31,7 +31,8 @@ QList<QWidget *> KeyboardAreas::stops() const
 KeyboardAreas::Area KeyboardAreas::current() const
 {
     QWidget *focused = QApplication::focusWidget();
-    if (!focused || focused == tabs->tabBar())
+    // The focus may have stayed on a page that a click on another tab has hidden.
+    if (!focused || !focused->isVisible() || focused == tabs->tabBar())
         return List;
     return tabs->isAncestorOf(focused) ? Page : Rows;
 }

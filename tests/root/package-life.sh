@@ -10,6 +10,7 @@ if [ -z "${IN_NAMESPACE:-}" ]; then
     IN_NAMESPACE=1 exec unshare --mount --pid --fork "$0" "$package" "$suite"
 fi
 root=$(mktemp -d)
+chmod 755 "$root"
 trap 'umount -l "$root/proc" "$root/dev" 2>/dev/null; rm -rf --one-file-system "$root"' EXIT
 
 say() { printf '== %s\n' "$1"; }

@@ -89,7 +89,7 @@ QList<QWidget *> Tab::focusOrder() const
 bool Tab::focusNextPrevChild(bool next)
 {
     const QList<QWidget *> stops = focusOrder();
-    if (stops.isEmpty())
+    if (stops.isEmpty() || !isVisible())
         return false;
     QWidget *focused = focusWidget();
     const auto here = std::find_if(stops.cbegin(), stops.cend(), [&](QWidget *stop) {
