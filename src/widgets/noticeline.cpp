@@ -61,7 +61,7 @@ void NoticeLine::resizeEvent(QResizeEvent *event)
 
 QString NoticeLine::listOf(int count) const
 {
-    const QString shown = items_.mid(0, count).join(QStringLiteral(", "));
+    QString shown = items_.mid(0, count).join(QStringLiteral(", "));
     const int more = items_.size() - count;
     if (more == 0)
         return shown;
