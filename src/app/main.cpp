@@ -1,6 +1,7 @@
 #include "app/bixdialog.h"
 #include "app/language.h"
 #include "app/telemetryoption.h"
+#include "widgets/spoken.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -29,6 +30,7 @@ int main(int argc, char **argv)
     QApplication::installTranslator(&translator);
     lookUpStandardButtons(translator);
     alignPrintSystemLanguage(locale);
+    Spoken::install();
 
     BixDialog dialog;
     dialog.show();

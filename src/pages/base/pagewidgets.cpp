@@ -2,6 +2,7 @@
 
 #include "widgets/bixbuttongroup.h"
 #include "widgets/comboboxex.h"
+#include "widgets/spokenwords.h"
 
 #include <QDialog>
 #include <QLabel>
@@ -15,8 +16,7 @@ QString withColon(const QString &text)
 
 QString withoutColon(const QString &text)
 {
-    const QString trimmed = text.trimmed();
-    return trimmed.endsWith(QLatin1Char(':')) ? trimmed.chopped(1).trimmed() : trimmed;
+    return Spoken::withoutColon(text);
 }
 
 LabeledComboBox labeledComboBox(QWidget *page, const char *labelName, const char *boxName,
