@@ -75,6 +75,77 @@
     </message>
 </context>
 <context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rosso</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Giallo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Ciano</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blu</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturazione</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosità</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrasto</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizzato</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL (tonalità, saturazione e luminosità)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Bilanciamento colore</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Regolazione tonalità</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Livelli di colore</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Impostazioni di regolazione</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modifica</translation>
+    </message>
+</context>
+<context>
     <name>BixDialog</name>
     <message>
         <source>Brixola Press Desk</source>
@@ -237,6 +308,77 @@ L&apos;elenco viene ricaricato.</translation>
     </message>
 </context>
 <context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Sfalsa lavori</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Ruota copie</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Attivato</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Piega in tre</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Piega in due</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Pinzatura:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforazione</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Lato di stampa</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Direzione di piega</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Numero di fogli</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Posizione di pinzatura:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Tipo di pinzatura</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Tipo di perforazione:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finitura</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Separazione</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforazione</translation>
+    </message>
+</context>
+<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -311,77 +453,6 @@ Le credenziali e i criteri verranno verificati di nuovo durante la stampa.
     <message>
         <source>You do not have permission to print.</source>
         <translation>Non si dispone dell&apos;autorizzazione per stampare.</translation>
-    </message>
-</context>
-<context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Disattivato</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Sfalsa lavori</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Ruota copie</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Attivato</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Piega in tre</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Piega in due</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Pinzatura:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Perforazione</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Lato di stampa</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Direzione di piega</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Numero di fogli</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Posizione di pinzatura:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Tipo di pinzatura</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Tipo di perforazione:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Finitura</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Separazione</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Perforazione</translation>
     </message>
 </context>
 <context>
@@ -688,12 +759,35 @@ Ad esempio: %1</translation>
         <source>Account ID Error</source>
         <translation>Errore ID conto</translation>
     </message>
+    <message>
+        <source>Custom job name</source>
+        <translation>Nome lavoro personalizzato</translation>
+    </message>
 </context>
 <context>
     <name>LicenseDialog</name>
     <message>
         <source>Legal Notices</source>
         <translation>Note legali</translation>
+    </message>
+</context>
+<context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizzato</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosità</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrasto</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Impostazioni di regolazione</translation>
     </message>
 </context>
 <context>
@@ -776,6 +870,10 @@ Ad esempio: %1</translation>
     <message>
         <source>su wants the administrator&apos;s password (root).</source>
         <translation>su richiede la password dell&apos;amministratore (root).</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Metodo</translation>
     </message>
 </context>
 <context>
@@ -1410,6 +1508,13 @@ Ad esempio: %1</translation>
     </message>
 </context>
 <context>
+    <name>Spoken</name>
+    <message>
+        <source>In conflict with other settings</source>
+        <translation>In conflitto con altre impostazioni</translation>
+    </message>
+</context>
+<context>
     <name>TelemetryDialog</name>
     <message>
         <source>Data Collection</source>
@@ -1552,96 +1657,6 @@ Ad esempio: %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>Questo testo non è tra i propri.</translation>
-    </message>
-</context>
-<context>
-    <name>adjustmentDialog</name>
-    <message>
-        <source>Master</source>
-        <translation>Generale</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Rosso</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Giallo</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Verde</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Ciano</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Blu</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturazione</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Luminosità</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrasto</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizzato</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL (tonalità, saturazione e luminosità)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Bilanciamento colore</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Regolazione tonalità</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Livelli di colore</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Impostazioni di regolazione</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modifica</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizzato</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Luminosità</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrasto</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Impostazioni di regolazione</translation>
     </message>
 </context>
 </TS>

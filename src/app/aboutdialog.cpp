@@ -3,6 +3,7 @@
 #include "app/licensedialog.h"
 #include "app/telemetrydialog.h"
 #include "app/version.h"
+#include "widgets/spoken.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -70,6 +71,7 @@ void AboutDialog::createPicture()
     picture->setMinimumSize(pictureSize);
     picture->setPixmap(pixmap);
     picture->setAccessibleName(spoken.join(QStringLiteral(", ")));
+    Spoken::setName(picture, picture->accessibleName());
 }
 
 void AboutDialog::createButtons()

@@ -1,5 +1,7 @@
 #include "app/licensedialog.h"
 
+#include "widgets/spoken.h"
+
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QTextEdit>
@@ -14,6 +16,7 @@ LicenseDialog::LicenseDialog(QWidget *parent)
     auto *notices = new QTextEdit(this);
     notices->setReadOnly(true);
     notices->setAccessibleName(windowTitle());
+    Spoken::setName(notices, windowTitle());
     QFile text(QStringLiteral(":/strings/license"));
     if (text.open(QIODevice::ReadOnly))
         notices->setPlainText(QString::fromUtf8(text.readAll()));

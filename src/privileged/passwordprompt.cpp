@@ -5,6 +5,7 @@
 #include "pages/base/paneldialog.h"
 #include "privileged/ppdwriter.h"
 #include "widgets/comboboxex.h"
+#include "widgets/spoken.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -44,6 +45,7 @@ PasswordPrompt::PasswordPrompt(PanelDialog *owner, const QString &ppdArguments)
     setWindowTitle(tr("Password Prompt"));
     PageWidgets::simplifyTitleBar(this);
     methodCombo->setAccessibleName(QStringLiteral("cmbBxMethod"));
+    Spoken::setName(methodCombo, tr("Method"));
     methodCombo->addItems({sudoMethod, suMethod});
     passwordEdit->setAccessibleName(QStringLiteral("lnEditRootPassword"));
     passwordEdit->setEchoMode(QLineEdit::Password);

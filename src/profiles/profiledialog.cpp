@@ -8,6 +8,7 @@
 #include "profiles/profilesavedialog.h"
 #include "profiles/profilestore.h"
 #include "storage/settingsfile.h"
+#include "widgets/spoken.h"
 
 #include <QDialogButtonBox>
 #include <QFrame>
@@ -80,6 +81,7 @@ void ProfileDialog::createTable()
 void ProfileDialog::createTree()
 {
     detailTree->setAccessibleName(tr("Detail"));
+    Spoken::setName(detailTree, tr("Detail"));
     detailTree->setColumnCount(2);
     detailTree->setHeaderLabels({tr("Item"), tr("Detail")});
     detailTree->setColumnWidth(0, itemWidth);

@@ -3,6 +3,7 @@
 #include "widgets/bixbuttongroup.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
+#include "widgets/spoken.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -147,6 +148,13 @@ void FinishingTab::registerWidgets()
     for (const auto &[keyword, widget] : marks)
         markWidgets.insert(QLatin1String(keyword), widget);
 
+    const QPair<const char *, Mode> switches[] = {
+        {"cTriFld", TriFold}, {"cBiFld", BiFold}, {"cStpl", Staple}, {"cHole", Punch}};
+    for (const auto &[keyword, mode] : switches) {
+        Spoken::setName(buttons[mode], FinishingTab::label(QLatin1String(keyword)));
+        Spoken::setLabels(buttons[mode], {headings[mode]});
+    }
+
     checkBoxButtons = {buttons[Punch], buttons[Staple], buttons[TriFold], buttons[BiFold]};
     addDependents(TriFold, {PrintSide, FoldDirection, TriFoldSheets});
     addDependents(BiFold, {BiFoldSheets});
@@ -185,6 +193,9 @@ void FinishingTab::addDependents(Mode mode, const QList<List> &dependents)
 
 void FinishingTab::createLayout()
 {
+    // Both are labelled "Number of sheets".
+    Spoken::setLabels(lists[TriFoldSheets].box, {headings[TriFold], lists[TriFoldSheets].label});
+    Spoken::setLabels(lists[BiFoldSheets].box, {headings[BiFold], lists[BiFoldSheets].label});
     auto *layout = new QHBoxLayout(this);
     layout->addLayout(createFoldGrid());
     layout->addWidget(PageLayout::verticalLine(this));

@@ -3,6 +3,7 @@
 #include "pages/imaging/adjustmentrows.h"
 #include "pages/imaging/adjustmentwidgets.h"
 #include "widgets/comboboxex.h"
+#include "widgets/spoken.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -49,10 +50,15 @@ void adjustmentDialog::createRows()
             group, name, row.kind == Master ? masterLimits : valueLimits);
         auto *label = new QLabel(isLevel ? text : withColon(text), group);
         AdjustmentWidgets::place(grid, row.gridRow, label, widgets);
-        if (isLevel)
-            grid->addWidget(new QLabel(tr(row.rightText), group), row.gridRow, 2, Qt::AlignRight);
-        else
+        QList<QWidget *> names{label};
+        if (isLevel) {
+            names.append(new QLabel(tr(row.rightText), group));
+            grid->addWidget(names.last(), row.gridRow, 2, Qt::AlignRight);
+        } else {
             labels.insert(keyOf(row), label);
+        }
+        Spoken::setLabels(widgets.slider, names);
+        Spoken::setLabels(widgets.edit, names);
         sliders.insert(keyOf(row), widgets.slider);
         lineEdits.insert(keyOf(row), widgets.edit);
     }

@@ -7,6 +7,7 @@
 #include "pages/imaging/monodialog.h"
 #include "widgets/bixbuttongroup.h"
 #include "widgets/comboboxex.h"
+#include "widgets/spoken.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -115,6 +116,7 @@ void ImagingTab::createWidgets()
     leanprintGroup = named(new BixButtonGroup(this, withColon(tr("LeanPrint"))), "butGroupLnpr");
     PageWidgets::addButtons(leanprintGroup, leanprintButtons, &ImagingTab::tr);
     leanprintBox = named(new ComboBoxEx(this), "cmbBxLnpr");
+    Spoken::setLabels(leanprintBox, {leanprintGroup});
 
     colorGroup_ = new BixButtonGroup(this, tr("Color") + QStringLiteral(": "));
     ColorGroup::addButtons(colorGroup_);
@@ -122,6 +124,7 @@ void ImagingTab::createWidgets()
     adjustmentLabel = named(new QLabel(this), "lblAdjustment");
     adjustmentButton = named(new QPushButton(this), "butAdjustment");
     adjustmentButton->setAutoDefault(false); // Return elsewhere in the window is no click here
+    Spoken::setLabels(adjustmentButton, {adjustmentLabel});
     for (const ControlRow &row : colorRows)
         addControl(row, colorGrid, 2);
     ImagingTab::retranslate();

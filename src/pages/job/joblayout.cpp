@@ -1,6 +1,7 @@
 // Where the widgets of the page "Job" stand.
 
 #include "pages/base/pagelayout.h"
+#include "pages/job/accountlistdialog.h"
 #include "pages/job/jobaccounting.h"
 #include "pages/job/jobemail.h"
 #include "pages/job/joblogin.h"
@@ -9,6 +10,7 @@
 #include "pages/job/jobtab.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
+#include "widgets/spoken.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -68,6 +70,9 @@ QGridLayout *JobTab::createStorageGrid()
     grid->addWidget(storage->passwordLabel, 4, 1, 1, 2);
     grid->addWidget(storage->passwordEdit, 5, 1, 1, 2);
     grid->addWidget(storage->error, 5, 1, 2, 5);
+    Spoken::setLabels(storage->button, {storage->label});
+    Spoken::setLabels(storage->numberEdit, {storage->numberLabel});
+    Spoken::setLabels(storage->codeEdit, {storage->codeLabel});
     addLine(grid, 8, 6);
 
     grid->addWidget(accounting->label, 9, 0, 1, 4);
@@ -77,6 +82,10 @@ QGridLayout *JobTab::createStorageGrid()
     grid->addWidget(accounting->idBox, 11, 1);
     grid->addWidget(accounting->listButton, 12, 1);
     grid->addWidget(accounting->error, 13, 1);
+    Spoken::setLabels(accounting->button, {accounting->label});
+    Spoken::setName(accounting->idEdit, accountList->windowTitle());
+    Spoken::setLabels(accounting->idEdit, {accounting->label});
+    Spoken::setLabels(accounting->idBox, {accounting->selectLabel});
     addLine(grid, 14, 6);
 
     grid->addWidget(login->label, 15, 0, 1, 2, Qt::AlignVCenter);
@@ -85,6 +94,10 @@ QGridLayout *JobTab::createStorageGrid()
     grid->addWidget(login->nameEdit, 17, 1);
     grid->addWidget(login->passwordLabel, 18, 1);
     grid->addWidget(login->passwordEdit, 19, 1);
+    // The page has another password.
+    Spoken::setLabels(login->nameEdit, {login->label, login->nameLabel});
+    Spoken::setLabels(login->passwordEdit, {login->label, login->passwordLabel});
+    Spoken::setLabels(login->button, {login->label});
     grid->setColumnStretch(5, 1);
     grid->setRowStretch(20, 1);
     return grid;
@@ -100,12 +113,15 @@ QGridLayout *JobTab::createNameGrid()
     grid->addWidget(name->overwriteLabel, 3, 1, 1, 5);
     // Below the picture there is room for texts that are too long for the second column.
     grid->addWidget(name->overwriteBox, 4, 0, 2, 2, Qt::AlignRight);
+    Spoken::setName(name->edit, tr("Custom job name"));
+    Spoken::setLabels(name->edit, {name->label});
     addLine(grid, 6, 7);
 
     grid->addWidget(email->label, 7, 0, 2, 5);
     grid->addWidget(email->button, 9, 0, 2, 1);
     grid->addWidget(email->edit, 9, 1);
     grid->addWidget(email->error, 10, 1);
+    Spoken::setLabels(email->button, {email->label});
     grid->setColumnStretch(13, 1);
     grid->setRowStretch(14, 1);
     return grid;

@@ -4,6 +4,7 @@
 #include "pages/publishing/publishingtab.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
+#include "widgets/spoken.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -48,6 +49,12 @@ QGridLayout *PublishingTab::createCoverGrid()
         prints[print]->setStyleSheet(
             QStringLiteral("QCheckBox { margin-bottom: 0px; margin-left: 40px }"));
     media[Cover].box->setStyleSheet(QStringLiteral("ComboBoxEx { margin-bottom: 15px }"));
+    for (const Print print : {CoverFrontOutside, CoverFrontInside})
+        Spoken::setLabels(prints[print], {captions[CoverFront]});
+    for (const Print print : {CoverBackOutside, CoverBackInside})
+        Spoken::setLabels(prints[print], {captions[CoverBack]});
+    for (int i = 0; i < ModeCount; ++i)
+        Spoken::setLabels(buttons[i], {headings[i]});
     headings[Interleaving]->setIndent(0); // a margin would add one
     headings[Interleaving]->setStyleSheet(
         QStringLiteral(".QLabel { margin-top: 15px; margin-bottom: 0px }"));

@@ -4,6 +4,7 @@
 #include "pages/watermark/watermarktab.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
+#include "widgets/spoken.h"
 
 #include <QCheckBox>
 #include <QFrame>
@@ -16,6 +17,9 @@
 void WatermarkTab::createLayout()
 {
     createLookGrid();
+    Spoken::setLabels(section, {heading});
+    Spoken::setLabels(watermarkButton, {heading});
+    Spoken::setLabels(superButton, {superHeading});
     auto *layout = new QHBoxLayout(this);
     layout->addWidget(section);
     layout->addWidget(PageLayout::verticalLine(this));
