@@ -1,7 +1,5 @@
 #include "app/licensedialog.h"
 
-#include "widgets/spoken.h"
-
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QTextEdit>
@@ -16,7 +14,6 @@ LicenseDialog::LicenseDialog(QWidget *parent)
     auto *notices = new QTextEdit(this);
     notices->setReadOnly(true);
     notices->setAccessibleName(windowTitle());
-    Spoken::setName(notices, windowTitle());
     QFile text(QStringLiteral(":/strings/license"));
     if (text.open(QIODevice::ReadOnly))
         notices->setPlainText(QString::fromUtf8(text.readAll()));

@@ -17,10 +17,10 @@ namespace Spoken {
 /// two answers for a widget.
 void install();
 
-/// Names a control by other widgets, such as a heading and a label, in this order. A field that is
-/// the buddy of a label, or has one right above it or before it, needs none of this; a button says
-/// them before its own text. With the name come their marks and tool tips, which are all that a
-/// BixCheckBoxButton takes: it is named already.
+/// Names a control by other widgets, such as a heading and a label, in this order. A field that has
+/// a label right above it or before it needs none of this; a button says them before its own text.
+/// With the name come their marks and tool tips, which are all that a BixCheckBoxButton takes: it
+/// is named already.
 void setLabels(QWidget *control, const QList<QWidget *> &labels);
 /// Names a control that no label stands for. A picture without a name decorates and is left out.
 void setName(QWidget *control, const QString &name);

@@ -38,17 +38,6 @@ QList<QWidget *> givenLabels(const QWidget *control)
     return labels;
 }
 
-QLabel *labelWithBuddy(const QWidget *field)
-{
-    const auto labels =
-        field->parentWidget()->findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QLabel *label : labels) {
-        if (label->buddy() == field)
-            return label;
-    }
-    return nullptr;
-}
-
 /// The layout that a widget lies in, this one or one within it; may be null.
 const QLayout *layoutWith(QWidget *widget, const QLayout *layout)
 {
@@ -65,8 +54,7 @@ const QLayout *layoutWith(QWidget *widget, const QLayout *layout)
 QLabel *labelAt(const QLayout *layout, int index)
 {
     QLayoutItem *item = layout->itemAt(index);
-    auto *label = item ? qobject_cast<QLabel *>(item->widget()) : nullptr;
-    return label && !Spoken::isPicture(label) ? label : nullptr;
+    return item ? qobject_cast<QLabel *>(item->widget()) : nullptr;
 }
 
 /// A place in a grid.
@@ -140,10 +128,7 @@ QList<QWidget *> Spoken::labelsOf(const QWidget *widget)
     const bool isKnown = !labels.isEmpty() || givenName(widget).isValid();
     if (isKnown || !isField(widget) || !widget->parentWidget())
         return labels;
-    QLabel *label = labelWithBuddy(widget);
-    if (!label)
-        label = labelBeside(const_cast<QWidget *>(widget));
-    if (label)
+    if (QLabel *label = labelBeside(const_cast<QWidget *>(widget)))
         labels.append(label);
     return labels;
 }

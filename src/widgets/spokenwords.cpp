@@ -45,7 +45,7 @@ QString titleAround(const QWidget *widget)
     for (; widget; widget = widget->parentWidget()) {
         if (qobject_cast<const QComboBox *>(widget))
             return Spoken::nameOf(widget); // whose list it is, in a window of its own
-        const QString title = widget->isWindow() ? widget->windowTitle() : pageTitle(widget);
+        QString title = widget->isWindow() ? widget->windowTitle() : pageTitle(widget);
         if (!title.isEmpty())
             return title;
     }
@@ -120,7 +120,7 @@ QString Spoken::nameOf(const QWidget *widget)
         return withoutColon(inOneLine(whole->label()));
     if (const auto *label = qobject_cast<const QLabel *>(widget))
         return labelText(label);
-    const QString title = pageTitle(widget);
+    QString title = pageTitle(widget);
     if (!title.isEmpty())
         return title;
 

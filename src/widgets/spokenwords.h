@@ -17,7 +17,7 @@ QString nameOf(const QWidget *widget);
 /// Reasons, explanations and marks of the widget and its labels; empty if there are none.
 QString descriptionOf(const QWidget *widget);
 /// The widgets that name this one: those of setLabels(). For a field that nothing is known of, the
-/// label that has it for its buddy, that stands right above it, or before it in its row.
+/// label that stands right above it, or before it in its row.
 QList<QWidget *> labelsOf(const QWidget *widget);
 /// The text of setName(); invalid if there was none.
 QVariant givenName(const QWidget *widget);
