@@ -2,6 +2,7 @@
 
 #include "app/bixdialog.h"
 #include "app/language.h"
+#include "pages/base/reasontip.h"
 #include "pages/base/tab.h"
 #include "privileged/passwordprompt.h"
 #include "storage/settingsfile.h"
@@ -146,6 +147,8 @@ private slots:
     void marks()
     {
         QWidget *staple = find("chkButStpl")->findChild<QCheckBox *>();
+        for (QWidget *each : {staple, staple->parentWidget()})
+            ReasonTip::set(each, QString()); // of what the test has switched on
         const auto descriptions = [&](const char *tip, bool on) {
             for (const char *name : {"lblMediaType", "lblStaple", "butGroupDuplex"})
                 window->findChild<Tab *>()->setWidgetMark(find(name), tip, on);
