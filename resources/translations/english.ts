@@ -143,6 +143,10 @@ Reloading list now.</translation>
         <source>Applying...</source>
         <translation>Applying...</translation>
     </message>
+    <message>
+        <source>Print server does not answer.</source>
+        <translation>Print server does not answer.</translation>
+    </message>
 </context>
 <context>
     <name>BixTabWidget</name>

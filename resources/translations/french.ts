@@ -143,6 +143,10 @@ La liste va être rechargée.</translation>
         <source>Applying...</source>
         <translation>Application en cours...</translation>
     </message>
+    <message>
+        <source>Print server does not answer.</source>
+        <translation>Le serveur d&apos;impression ne répond pas.</translation>
+    </message>
 </context>
 <context>
     <name>BixTabWidget</name>

@@ -143,6 +143,10 @@ Die Liste wird neu geladen.</translation>
         <source>Applying...</source>
         <translation>Wird angewendet...</translation>
     </message>
+    <message>
+        <source>Print server does not answer.</source>
+        <translation>Der Druckserver antwortet nicht.</translation>
+    </message>
 </context>
 <context>
     <name>BixTabWidget</name>

@@ -143,6 +143,10 @@ L&apos;elenco viene ricaricato.</translation>
         <source>Applying...</source>
         <translation>Applicazione in corso...</translation>
     </message>
+    <message>
+        <source>Print server does not answer.</source>
+        <translation>Il server di stampa non risponde.</translation>
+    </message>
 </context>
 <context>
     <name>BixTabWidget</name>

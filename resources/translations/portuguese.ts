@@ -143,6 +143,10 @@ A lista vai ser recarregada.</translation>
         <source>Applying...</source>
         <translation>A aplicar...</translation>
     </message>
+    <message>
+        <source>Print server does not answer.</source>
+        <translation>O servidor de impressão não responde.</translation>
+    </message>
 </context>
 <context>
     <name>BixTabWidget</name>

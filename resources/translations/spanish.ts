@@ -143,6 +143,10 @@ Se volverá a cargar la lista.</translation>
         <source>Applying...</source>
         <translation>Aplicando...</translation>
     </message>
+    <message>
+        <source>Print server does not answer.</source>
+        <translation>El servidor de impresión no responde.</translation>
+    </message>
 </context>
 <context>
     <name>BixTabWidget</name>

@@ -170,8 +170,13 @@ void BixDialog::unselectPrinters()
 
 bool BixDialog::checkPrinters()
 {
-    const QSet<QString> current = queueNames();
-    if (current == knownPrinters)
+    PrintSystem state;
+    const QSet<QString> current = queueNames(&state);
+    if (state == PrintSystem::Silent)
+        notice->showWork(tr("Print server does not answer."));
+    else
+        notice->endWork();
+    if (state == PrintSystem::Silent || current == knownPrinters)
         return false;
     printerTab->reloadPrinterTable();
     if (!isSelectedPrinterKnown()) {
@@ -207,6 +212,8 @@ void BixDialog::setConstraints()
     else
         constraintPasses = 0;
     endMoves();
+    if (report->isMoving())
+        return; // the outermost pass looks round and says that it is over
     checkPrinters();
     settling.start();
     emit constraintsWorkedOut();

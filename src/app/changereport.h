@@ -30,6 +30,7 @@ public:
     /// Around a pass, or another stretch in which pages move values; one may lie within another.
     void beginMoves() { watch.beginPass(); }
     void endMoves() { watch.endPass(); }
+    bool isMoving() const { return watch.isInPass(); }
     /// Who asks for a pass: a widget means that the user did something, unless a pass moved it.
     void noteSender(const QObject *sender);
     /// Another printer, none any more, or a profile: what settle() finds was adjusted to it.

@@ -1,5 +1,7 @@
 #include "model/printqueues.h"
 
+#include <QElapsedTimer>
+
 #include <cups/cups.h>
 
 #include <algorithm>
@@ -16,15 +18,67 @@ struct IppDeleter
 };
 using Ipp = std::unique_ptr<ipp_t, IppDeleter>;
 
-Ipp getPrinters()
+struct HttpCloser
 {
-    static const char *const wanted[] = {"printer-name", "device-uri"};
+    void operator()(http_t *connection) const { httpClose(connection); }
+};
+
+constexpr int longestWait = 2000;  // ms
+constexpr int longestPeace = 5000; // ms
+
+using Http = std::unique_ptr<http_t, HttpCloser>;
+
+/// One of its own, since that of libcups knows no limit of time.
+Http connect()
+{
+    Http http(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                           longestWait, nullptr));
+    if (http)
+        httpSetTimeout(
+            http.get(), longestWait / 1000.0, [](http_t *, void *) { return 0; }, nullptr);
+    return http;
+}
+
+ipp_t *newRequest(std::initializer_list<const char *> wanted)
+{
     ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
     ippAddStrings(request, IPP_TAG_OPERATION, IPP_CONST_TAG(IPP_TAG_KEYWORD),
-                  "requested-attributes", 2, nullptr, wanted);
+                  "requested-attributes", int(wanted.size()), nullptr, wanted.begin());
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                  cupsUser());
-    return Ipp(cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/"));
+    return request;
+}
+
+Ipp getPrinters(std::initializer_list<const char *> wanted, PrintSystem *state)
+{
+    static Http kept;
+    static QElapsedTimer silence;
+    *state = PrintSystem::Silent;
+    if (silence.isValid() && !silence.hasExpired(longestPeace))
+        return nullptr;
+    silence.invalidate();
+
+    // The scheduler may have gone, and come back, since the connection was used last.
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        if (!kept)
+            kept = connect();
+        if (!kept)
+            break;
+        QElapsedTimer clock;
+        clock.start();
+        Ipp answer(cupsDoRequest(kept.get(), newRequest(wanted), "/")); // owns the request
+        if (answer) {
+            *state = PrintSystem::Answers;
+            return answer;
+        }
+        kept.reset();
+        if (clock.hasExpired(longestWait)) {
+            silence.start();
+            return nullptr;
+        }
+    }
+    *state = PrintSystem::Refuses;
+    return nullptr;
 }
 
 QString text(ipp_attribute_t *attribute)
@@ -32,14 +86,9 @@ QString text(ipp_attribute_t *attribute)
     return QString::fromUtf8(ippGetString(attribute, 0, nullptr));
 }
 
-} // namespace
-
-QList<PrintQueue> printQueues(bool *answered)
+QList<PrintQueue> queuesOf(ipp_t *answer)
 {
     QList<PrintQueue> queues;
-    const Ipp answer = getPrinters();
-    if (answered)
-        *answered = answer != nullptr;
     if (!answer)
         return queues;
 
@@ -49,8 +98,8 @@ QList<PrintQueue> printQueues(bool *answered)
             queues.append(queue);
         queue = {};
     };
-    for (ipp_attribute_t *attribute = ippFirstAttribute(answer.get()); attribute;
-         attribute = ippNextAttribute(answer.get())) {
+    for (ipp_attribute_t *attribute = ippFirstAttribute(answer); attribute;
+         attribute = ippNextAttribute(answer)) {
         const char *name = ippGetName(attribute);
         if (ippGetGroupTag(attribute) != IPP_TAG_PRINTER || !name)
             finishQueue(); // the separator between two printers
@@ -60,17 +109,28 @@ QList<PrintQueue> printQueues(bool *answered)
             queue.deviceUri = text(attribute);
     }
     finishQueue();
+    return queues;
+}
 
+} // namespace
+
+QList<PrintQueue> printQueues(PrintSystem *state)
+{
+    PrintSystem ignored;
+    QList<PrintQueue> queues =
+        queuesOf(getPrinters({"printer-name", "device-uri"}, state ? state : &ignored).get());
     std::stable_sort(queues.begin(), queues.end(), [](const PrintQueue &a, const PrintQueue &b) {
         return a.name.compare(b.name, Qt::CaseInsensitive) < 0;
     });
     return queues;
 }
 
-QSet<QString> queueNames()
+QSet<QString> queueNames(PrintSystem *state)
 {
+    PrintSystem ignored;
+    const QList<PrintQueue> queues =
+        queuesOf(getPrinters({"printer-name"}, state ? state : &ignored).get());
     QSet<QString> names;
-    const QList<PrintQueue> queues = printQueues();
     for (const PrintQueue &queue : queues)
         names.insert(queue.name);
     return names;
@@ -78,5 +138,6 @@ QSet<QString> queueNames()
 
 bool isPrintSystemReachable()
 {
-    return getPrinters() != nullptr;
+    PrintSystem state;
+    return getPrinters({"printer-name"}, &state) != nullptr;
 }

@@ -36,6 +36,8 @@ void NoticeLine::forget()
 
 void NoticeLine::showWork(const QString &text)
 {
+    if (work_ == text)
+        return;
     work_ = text;
     showFitting();
     announce();
@@ -43,6 +45,8 @@ void NoticeLine::showWork(const QString &text)
 
 void NoticeLine::endWork()
 {
+    if (work_.isEmpty())
+        return;
     work_.clear();
     showFitting();
 }

@@ -103,7 +103,9 @@ void PrinterTab::createWidgets()
     layout->addWidget(printerTable);
     layout->addLayout(headerGrid);
     layout->addWidget(scrollArea);
-    fillTable();
+    PrintSystem state;
+    const QList<PrintQueue> queues = printQueues(&state);
+    fillTable(queues, state);
 }
 
 void PrinterTab::createTable()
@@ -131,11 +133,9 @@ void PrinterTab::setHeaders()
         printerTable->setHorizontalHeaderItem(column, new QTableWidgetItem(headers[column]));
 }
 
-void PrinterTab::fillTable()
+void PrinterTab::fillTable(const QList<PrintQueue> &queues, PrintSystem state)
 {
     knownPrinters.clear();
-    bool answered = false;
-    const QList<PrintQueue> queues = printQueues(&answered);
     for (const PrintQueue &queue : queues) {
         knownPrinters.insert(queue.name);
         for (int rows = makerRowCount(queue.name); rows > 0; --rows)
@@ -147,7 +147,7 @@ void PrinterTab::fillTable()
         printerTable->resizeColumnsToContents();
         printerTable->resizeRowsToContents();
     }
-    explainEmptiness(answered);
+    explainEmptiness(state == PrintSystem::Answers);
     updateHint();
 }
 
@@ -200,6 +200,10 @@ QStringList PrinterTab::listedQueues() const
 
 void PrinterTab::reloadPrinterTable()
 {
+    PrintSystem state;
+    const QList<PrintQueue> queues = printQueues(&state);
+    if (state == PrintSystem::Silent)
+        return; // what is known stays
     const QSignalBlocker silent(printerTable);
     // A queue with two rows keeps the one that was selected.
     const QStringList listed = listedQueues();
@@ -213,7 +217,7 @@ void PrinterTab::reloadPrinterTable()
     printerTable->clear();
     printerTable->setRowCount(0);
     setHeaders();
-    fillTable();
+    fillTable(queues, state);
     for (int column = 0; column < ColumnCount; ++column)
         printerTable->setColumnWidth(column, widths[column]);
     const int row = listedQueues().indexOf(selected);

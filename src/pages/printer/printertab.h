@@ -12,6 +12,7 @@ class QGridLayout;
 class QLabel;
 class QTableWidget;
 struct PrintQueue;
+enum class PrintSystem;
 
 /// The page "Printer": the queues of the maker's printers in a table, and the selected one's
 /// installed options.
@@ -60,7 +61,7 @@ public slots:
 private:
     void createTable();
     void setHeaders();
-    void fillTable();
+    void fillTable(const QList<PrintQueue> &queues, PrintSystem state);
     void addRow(const PrintQueue &queue);
     void showStatus(const QString &queue, const QString &status);
     void explainEmptiness(bool answered);
