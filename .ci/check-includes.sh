@@ -5,7 +5,7 @@
 #   check-includes.sh [FOLDER]     FOLDER: the source folder, default the checkout's src
 #
 # From low to high: model; storage; desktop and widgets; pages/base; the other folders of pages, and
-# profiles; policy and privileged; app. Within a folder files include each other freely. The model
+# profiles; policy, privileged and sketch; app. Within a folder files include each other freely. The model
 # sees no Qt but Qt Core.
 set -eu
 
@@ -22,7 +22,7 @@ grep -rnE --include='*.h' --include='*.cpp' '^[[:space:]]*#[[:space:]]*include[[
             rank["desktop"] = rank["widgets"] = 2
             rank["pages/base"] = 3
             rank["pages/*"] = rank["profiles"] = 4
-            rank["policy"] = rank["privileged"] = 5
+            rank["policy"] = rank["privileged"] = rank["sketch"] = 5
             rank["app"] = 6
         }
         # "pages/basic/generaltab.h" lies in "pages/basic"; a file without a folder in "".

@@ -55,6 +55,9 @@ WATCHERS = {
     "publishingrows.h": ["case_publishing", "case_languages"],
     "publishingtab.cpp": ["case_publishing"],
     "publishingtab.h": ["case_publishing"],
+    "sheetsketch.cpp": ["tst_functions TestSheetSketch", "tst_functions TestSheetSketchBefore",
+                        "tst_functions TestSheetKeywords"],
+    "sheetwords.cpp": ["case_sketch"],
     "syntheticoptions.cpp": ["tst_stores"],
     "watermarkrecords.cpp": ["tst_functions TestWatermarkRecords", "case_watermark"],
     "watermarkrows.h": ["case_watermark"],
@@ -70,6 +73,7 @@ DEAD = {
     ("priorities", "cPnch"): "no printer has it, and the panel's own is cHole",
     ("standardTexts", None): "only the catalogues need to know them",
     ("chromaticColors", None): "the import has the same rules",
+    **{(table, None): "only the look of a drawing" for table in ("inks", "grays", "bars")},
     ("staplePlaces", None): "the button follows its own option, which is loaded after it",
     ("captionRows", '{"lblPinsPageError", QT_TRANSLATE_NOOP("PublishingTab", "Generic error message")}'):
         "never shows",

@@ -11,6 +11,7 @@
 #include "pages/imaging/imagingtab.h"
 #include "pages/printer/printertab.h"
 #include "privileged/passwordprompt.h"
+#include "sketch/sheetview.h"
 #include "storage/ownfile.h"
 #include "storage/settingsfile.h"
 #include "widgets/bixbuttongroup.h"
@@ -235,6 +236,7 @@ void BixDialog::settle()
     if (auto *page = qobject_cast<Tab *>(tabWidget->currentWidget()))
         page->explain(*labels);
     explainButtons();
+    sheetView->showSettings(report->moved());
 }
 
 bool BixDialog::runPass()

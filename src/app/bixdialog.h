@@ -23,6 +23,7 @@ class Publication;
 class QDialogButtonBox;
 class QPushButton;
 class SettingsCollector;
+class SheetView;
 class Tab;
 class UserLoginTab;
 
@@ -116,6 +117,7 @@ private:
     ProfileDialog *profileDialog;
     ProfileSaveDialog *profileSaveDialog;
     BixTabWidget *tabWidget;
+    SheetView *sheetView;
     QDialogButtonBox *buttonBox;
     QList<Tab *> pages; ///< all shown pages in tab order
     AboutDialog *aboutDialog;

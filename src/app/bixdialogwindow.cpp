@@ -18,6 +18,7 @@
 #include "policy/fkptab.h"
 #include "profiles/profiledialog.h"
 #include "profiles/profilesavedialog.h"
+#include "sketch/sheetview.h"
 #include "storage/ownfile.h"
 #include "storage/settingsfile.h"
 #include "widgets/bixtabwidget.h"
@@ -242,6 +243,7 @@ void BixDialog::createTabs()
     for (Tab *page : qAsConst(pages))
         tabWidget->addTab(page, page->tabIcon(), page->tabName());
     enableTabs();
+    sheetView = new SheetView(tabWidget, pages, *labels);
     connect(tabWidget, &QTabWidget::currentChanged, this, &BixDialog::settle);
 }
 

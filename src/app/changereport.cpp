@@ -114,6 +114,16 @@ void ChangeReport::restore()
     }
 }
 
+QHash<QString, QString> ChangeReport::moved() const
+{
+    QHash<QString, QString> keys;
+    for (const ChangeWatch::Move &move : lastMoves) {
+        if (move.from)
+            keys.insert(move.option->key(), move.from->key());
+    }
+    return keys;
+}
+
 // Why
 
 ChangeReport::Cause ChangeReport::cause() const

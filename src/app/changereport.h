@@ -3,6 +3,7 @@
 #include "app/changewatch.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -40,6 +41,8 @@ public:
     /// Sets again what was lost, through the controls of the pages; without effect unless that is
     /// offered.
     void restore();
+    /// The keywords of what the last action moved, with the keys that were selected before.
+    QHash<QString, QString> moved() const;
 
 private:
     using Moves = QList<ChangeWatch::Move>;

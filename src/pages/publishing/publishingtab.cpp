@@ -233,6 +233,16 @@ bool PublishingTab::isOn(Mode mode) const
     return buttons[mode]->isChecked();
 }
 
+QStringList PublishingTab::modesOn() const
+{
+    QStringList keywords;
+    for (int i = 0; i < ModeCount; ++i) {
+        if (isOn(Mode(i)))
+            keywords.append(QLatin1String(modeRows[i].keyword));
+    }
+    return keywords;
+}
+
 bool PublishingTab::isPrinted(Print print) const
 {
     return prints[print]->isChecked();

@@ -32,6 +32,8 @@ public:
     bool hasMarks() override;
     void retranslate() override;
     void markConstraintWidgets() override;
+    /// The keywords of those of the three that are switched on.
+    QStringList modesOn() const;
 
 private slots:
     /// Judges the list of pages and shows on its label what is wrong.

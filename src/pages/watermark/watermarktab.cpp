@@ -140,6 +140,11 @@ void WatermarkTab::createConnections()
 
 // The list of texts
 
+QString WatermarkTab::shownText() const
+{
+    return text.box->currentText();
+}
+
 int WatermarkTab::textIndex(const QString &name) const
 {
     return text.box->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);

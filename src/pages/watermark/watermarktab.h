@@ -32,6 +32,8 @@ public:
     Settings extraSettings() override;
     void retranslate() override;
     void explain(const OptionLabels &labels) override;
+    /// The text that is selected, the printer's or the user's own.
+    QString shownText() const;
 
 protected:
     QString greyReason(const QWidget *widget) const override;
