@@ -5,6 +5,7 @@
 #include "model/optionstore.h"
 #include "model/ppdimport.h"
 #include "profiles/profiledialog.h"
+#include "sketch/sheetpainter.h"
 #include "storage/settingsfile.h"
 #include "support/recordingdialog.h"
 #include "widgets/comboboxex.h"
@@ -12,6 +13,8 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
+#include <QPainter>
 #include <QProcess>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -157,6 +160,38 @@ void click(benchmark::State &state)
         paper->setCurrentIndex((paper->currentIndex() + 1) % paper->count());
 }
 
+/// After a click: the settings of the largest sample printer are sketched and drawn for a dense
+/// screen.
+void drawSheets(benchmark::State &state)
+{
+    const Ppd ppd = openPpd(PRESSDESK_SOURCE_DIR "/demo/ppd/px4500.ppd");
+    OptionStore store;
+    importPpd(ppd.get(), &store);
+    for (const auto &[option, choice] : {std::pair("PageSize", "A4"),
+                                         {"Duplex", "DuplexNoTumble"},
+                                         {"cTriFld", "True"},
+                                         {"FldC", "ZFold"},
+                                         {"cStpl", "True"},
+                                         {"Stpl", "Center"},
+                                         {"cHole", "True"},
+                                         {"Pnch", "Hole4"},
+                                         {"Sep", "Jog"},
+                                         {"Coll", "True"},
+                                         {"Wren", "True"},
+                                         {"Wsze", "72"},
+                                         {"Wang", "50"},
+                                         {"Wclr", "Red"}})
+        store.setCurrentByKey(QLatin1String(option), QLatin1String(choice));
+    const SheetPages pages = {QStringLiteral("CONFIDENTIAL"),
+                              {QStringLiteral("cCovBut"), QStringLiteral("cInsBut")}};
+    QImage image(360, 400, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(2);
+    for (auto _ : state) {
+        QPainter painter(&image);
+        paintSheets(&painter, QRectF(0, 0, 180, 200), sheetSketch(store, pages), SheetSketch());
+    }
+}
+
 /// A row of the profile list becomes current: the PPD of the profile's printer is read, what 150
 /// options hold is put into words and drawn.
 void showProfile(benchmark::State &state)
@@ -265,6 +300,7 @@ int main(int argc, char **argv)
         {"ppdMarkOption+ppdConflicts", markAndConflicts, benchmark::kMicrosecond},
         {"select+isBlocked", selectAndAsk, benchmark::kMicrosecond},
         {"click+constraintPass", click, benchmark::kMillisecond},
+        {"drawSheets", drawSheets, benchmark::kMillisecond},
         {"showProfile", showProfile, benchmark::kMillisecond},
         {"ppdOpenFile of a busy value", openBusyFile, benchmark::kMillisecond},
         {"importPpd of a busy value", importBusy, benchmark::kMillisecond},

@@ -18,7 +18,10 @@ constexpr QRgb inks[] = {0xff18a4d8, 0xffe0348b, 0xffffd21f};
 constexpr QRgb grays[] = {0xff6b7683, 0xff4a5460, 0xffb4bdc7};
 constexpr double bars[] = {0.55, 1, 0.75}; // of the height
 
-QFont fontOf(const QString &choice, double pixels)
+// Letters are drawn big and made smaller, or they would stand on whole pixels. In pixels.
+constexpr int drawnLetters = 100;
+
+QFont fontOf(const QString &choice)
 {
     QFont font;
     if (choice.startsWith(QLatin1String("Times"))) {
@@ -32,8 +35,16 @@ QFont fontOf(const QString &choice, double pixels)
         font.setStyleHint(QFont::SansSerif);
     }
     font.setBold(choice.contains(QLatin1String("Bold")));
-    font.setPixelSize(std::max(1, int(std::lround(pixels))));
+    font.setPixelSize(drawnLetters);
     return font;
+}
+
+QPainterPath lettersOf(const SheetSketch::Watermark &mark)
+{
+    QPainterPath letters;
+    if (!mark.text.isEmpty())
+        letters.addText(QPointF(), fontOf(mark.font), mark.text);
+    return letters;
 }
 
 QPainterPath around(const QLineF &line, double width)
@@ -49,25 +60,29 @@ QPainterPath around(const QLineF &line, double width)
 } // namespace
 
 SheetContent::SheetContent(QPainter *painter, double scale, const SheetSketch &sketch,
-                           const SheetSketch &before, QVector<SheetArea> *areas)
+                           const SheetSketch &before, const SheetFold &fold,
+                           QVector<SheetArea> *areas)
     : painter(painter)
     , scale(scale)
     , sketch(sketch)
     , before(before)
+    , fold(fold)
+    , letters(lettersOf(sketch.watermark))
     , areas(areas)
 {
 }
 
 void SheetContent::addArea(SheetPart part, const QPainterPath &shape) const
 {
-    QPainterPath inside = shape;
-    if (!clip.isNull()) {
-        QPainterPath frame;
-        frame.addRect(clip);
-        inside = shape.intersected(frame);
-    }
-    if (!inside.isEmpty())
-        areas->append({part, painter->worldTransform().map(inside)});
+    areas->append({part, painter->worldTransform().map(shape)});
+}
+
+QPainterPath SheetContent::placed(const QVector<QRectF> &rects, const QTransform &turn) const
+{
+    QPainterPath path;
+    for (const QRectF &rect : rects)
+        path.addRect(turn.mapRect(rect));
+    return fold.map(path);
 }
 
 QColor SheetContent::color(SheetPart part, const QColor &usual) const
@@ -79,108 +94,91 @@ QColor SheetContent::color(SheetPart part, const QColor &usual) const
 
 void SheetContent::paintPage(const QRectF &page) const
 {
-    painter->save();
-    if (sketch.upsideDown) {
-        painter->translate(page.center());
-        painter->rotate(180);
-        painter->translate(-page.center());
-    }
+    const QPointF middle = page.center() * 2;
+    const QTransform turn =
+        sketch.upsideDown ? QTransform(-1, 0, 0, -1, middle.x(), middle.y()) : QTransform();
     painter->setOpacity(sketch.pale ? 0.35 : 1);
-    paintLines(page);
+    paintLines(page, turn);
     painter->setOpacity(1);
-    paintWatermark(page);
-    painter->restore();
+    paintWatermark(page, turn);
 }
 
-void SheetContent::paintLines(const QRectF &page) const
+void SheetContent::paintLines(const QRectF &page, const QTransform &turn) const
 {
     const double side = std::round(page.width() * 0.2);
     const QRectF text = page.adjusted(side, std::round(page.height() * 0.13), -side,
                                       -std::round(page.height() * 0.12));
-    const QColor gray = color(SheetPart::Rotation, SheetColors::line);
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(color(SheetPart::Rotation, SheetColors::ink));
-    painter->drawRect(QRectF(text.left(), text.top(), std::round(text.width() * 0.55), 4));
-
+    const QRectF heading(text.left(), text.top(), std::round(text.width() * 0.55), 4);
     const QRectF picture(text.left(), text.top() + 10, text.width(),
                          std::round(text.height() * 0.36));
-    painter->setBrush(gray);
-    double y = picture.bottom() + 6;
-    for (; y + 2 <= text.bottom(); y += 6) {
+    QVector<QRectF> lines;
+    for (double y = picture.bottom() + 6; y + 2 <= text.bottom(); y += 6) {
         const bool isLast = y + 8 > text.bottom();
-        painter->drawRect(QRectF(text.left(), y, std::round(text.width() * (isLast ? 0.6 : 1)), 2));
+        lines.append(QRectF(text.left(), y, std::round(text.width() * (isLast ? 0.6 : 1)), 2));
     }
+    painter->fillPath(placed({heading}, turn), color(SheetPart::Rotation, SheetColors::ink));
+    painter->fillPath(placed(lines, turn), color(SheetPart::Rotation, SheetColors::line));
     if (sketch.upsideDown || sketch.hasMoved(SheetPart::Rotation)) {
-        QPainterPath area;
-        area.addRect(QRectF(text.left(), picture.bottom() + 3, text.width(),
-                            text.bottom() - picture.bottom()));
-        addArea(SheetPart::Rotation, area);
+        const QRectF whole(picture.bottomLeft() + QPointF(0, 3), text.bottomRight());
+        addArea(SheetPart::Rotation, placed({whole}, turn));
     }
-    paintPicture(picture);
+    paintPicture(picture, turn);
 }
 
-void SheetContent::paintPicture(const QRectF &place) const
+void SheetContent::paintPicture(const QRectF &place, const QTransform &turn) const
 {
     const double width = std::floor(place.width() / 3 - 2);
     for (int i = 0; i < 3; ++i) {
         const double height = std::round((place.height() - 4) * bars[i]);
-        painter->setBrush(QColor(sketch.color ? inks[i] : grays[i]));
-        painter->drawRect(
-            QRectF(place.left() + 1 + i * (width + 2), place.bottom() - 1 - height, width, height));
+        const QRectF bar(place.left() + 1 + i * (width + 2), place.bottom() - 1 - height, width,
+                         height);
+        painter->fillPath(placed({bar}, turn), QColor(sketch.color ? inks[i] : grays[i]));
     }
-    painter->setBrush(color(SheetPart::Content, SheetColors::frame));
-    painter->drawRect(QRectF(place.left(), place.bottom() - 1, place.width(), 1));
-    if (sketch.hasMoved(SheetPart::Content)) {
-        painter->setBrush(Qt::NoBrush);
-        painter->setPen(QPen(SheetColors::accent, 1));
-        painter->drawRect(place.adjusted(-1.5, 0.5, 1.5, 1.5));
-        painter->setPen(Qt::NoPen);
-    }
-    QPainterPath area;
-    area.addRect(place);
-    addArea(SheetPart::Content, area);
+    const QRectF ground(place.left(), place.bottom() - 1, place.width(), 1);
+    painter->fillPath(placed({ground}, turn), color(SheetPart::Content, SheetColors::frame));
+    if (sketch.hasMoved(SheetPart::Content))
+        painter->strokePath(placed({place.adjusted(-1.5, 0.5, 1.5, 1.5)}, turn),
+                            QPen(SheetColors::accent, 1));
+    addArea(SheetPart::Content, placed({place}, turn));
 }
 
-void SheetContent::paintWatermark(const QRectF &page) const
+void SheetContent::paintWatermark(const QRectF &page, const QTransform &turn) const
 {
     const SheetSketch::Watermark &mark = sketch.watermark;
     if (mark.text.isEmpty())
         return;
-    // Drawn big and made smaller, since the letters would stand on whole pixels.
-    constexpr double drawn = 100;
-    QPainterPath letters;
-    letters.addText(QPointF(), fontOf(mark.font, drawn), mark.text);
-    const double factor = mark.size / pointsPerMillimetre * scale / drawn;
+    const double factor = mark.size / pointsPerMillimetre * scale / drawnLetters;
     const QRectF bounds = letters.boundingRect();
     QTransform place;
     place.translate(page.center().x(), page.center().y());
     place.rotate(-mark.angle);
     place.scale(factor, factor);
     place.translate(-bounds.center().x(), -bounds.center().y());
-    letters = place.map(letters);
+    place *= turn;
+    const QPainterPath text = fold.map(place.map(letters));
+    const QPainterPath sheet = placed({page}, QTransform());
 
     painter->save();
-    painter->setClipRect(page, Qt::IntersectClip);
+    if (!sheet.boundingRect().contains(text.boundingRect()))
+        painter->setClipPath(sheet, Qt::IntersectClip);
     QColor ink = color(SheetPart::Watermark, mark.color);
     ink.setAlphaF(mark.opaque ? 1 : 0.7);
     if (mark.outline)
-        painter->strokePath(letters, QPen(ink, 0.75));
+        painter->strokePath(text, QPen(ink, 0.75));
     else
-        painter->fillPath(letters, ink);
+        painter->fillPath(text, ink);
     painter->restore();
 
     QPainterPath strip;
     strip.addRect(bounds);
-    QPainterPath sheet;
-    sheet.addRect(page);
-    addArea(SheetPart::Watermark, place.map(strip).intersected(sheet));
+    addArea(SheetPart::Watermark, fold.map(place.map(strip)).intersected(sheet));
 }
 
 // The edges
 
 void SheetContent::paintStaple(const QLineF &staple, bool isGone) const
 {
-    const QPainterPath shape = around(staple, 3);
+    const QPainterPath shape = fold.map(around(staple, 3));
     if (isGone) {
         painter->setBrush(Qt::NoBrush);
         painter->setPen(QPen(SheetColors::accent, 1));
@@ -189,11 +187,12 @@ void SheetContent::paintStaple(const QLineF &staple, bool isGone) const
         painter->setPen(Qt::NoPen);
     }
     painter->drawPath(shape);
-    addArea(SheetPart::Staple, around(staple, 3 + 2 * reach));
+    addArea(SheetPart::Staple, fold.map(around(staple, 3 + 2 * reach)));
 }
 
-void SheetContent::paintHole(const QPointF &middle, bool isGone) const
+void SheetContent::paintHole(const QPointF &place, bool isGone) const
 {
+    const QPointF middle = fold.map(place);
     if (isGone) {
         painter->setBrush(Qt::NoBrush);
         painter->setPen(QPen(SheetColors::accent, 1));

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "sketch/sheetfold.h"
 #include "sketch/sheetpainter.h"
+
+#include <QTransform>
 
 /// Draws what stands on one sheet, and what is done to it at its edges. The origin is the upper
 /// left corner of the sheet.
@@ -8,9 +11,9 @@ class SheetContent
 {
 public:
     /// `scale` is in pixels per millimetre; all else is borrowed. Parts that it draws are added to
-    /// `areas`, within `clip` alone.
+    /// `areas`.
     SheetContent(QPainter *painter, double scale, const SheetSketch &sketch,
-                 const SheetSketch &before, QVector<SheetArea> *areas);
+                 const SheetSketch &before, const SheetFold &fold, QVector<SheetArea> *areas);
 
     /// Text and picture of a page, with its watermark.
     void paintPage(const QRectF &page) const;
@@ -19,22 +22,24 @@ public:
     /// Two staples across a fold.
     void paintStitches(const QLineF &fold) const;
 
-    /// Of an area that nothing else may be in; a null one for everywhere.
-    void setClip(const QRectF &rect) { clip = rect; }
+    /// Notes where a part is that has been drawn.
     void addArea(SheetPart part, const QPainterPath &shape) const;
 
 private:
     QColor color(SheetPart part, const QColor &usual) const;
-    void paintLines(const QRectF &page) const;
-    void paintPicture(const QRectF &place) const;
-    void paintWatermark(const QRectF &page) const;
+    void paintLines(const QRectF &page, const QTransform &turn) const;
+    void paintPicture(const QRectF &place, const QTransform &turn) const;
+    void paintWatermark(const QRectF &page, const QTransform &turn) const;
+    /// Where these stand on the folded sheet.
+    QPainterPath placed(const QVector<QRectF> &rects, const QTransform &turn) const;
     void paintStaple(const QLineF &staple, bool isGone) const;
-    void paintHole(const QPointF &middle, bool isGone) const;
+    void paintHole(const QPointF &place, bool isGone) const;
 
     QPainter *const painter;
     const double scale;
     const SheetSketch &sketch;
     const SheetSketch &before;
+    const SheetFold &fold;
+    const QPainterPath letters; ///< of the watermark
     QVector<SheetArea> *const areas;
-    QRectF clip;
 };

@@ -1,18 +1,9 @@
 #pragma once
 
 #include "sketch/sheetcontent.h"
+#include "sketch/sheetfold.h"
 
 #include <QPen>
-
-#include <functional>
-
-/// A stretch of a folded sheet between two creases: its upper and lower edge, and how far each is
-/// moved to the right.
-struct Panel
-{
-    double top, bottom;
-    double topShift, bottomShift;
-};
 
 /// One drawing of sheets, see paintSheets(): the front sheet, and what lies below and beside it.
 ///
@@ -26,7 +17,8 @@ public:
         , before(before)
         , size(sheetSize())
         , page(QPointF(), size)
-        , content(painter, contentScale(), sketch, before, &areas)
+        , fold(sketch.fold, size)
+        , content(painter, contentScale(), sketch, before, fold, &areas)
     {
     }
 
@@ -48,7 +40,9 @@ private:
         return !now && then && sketch.hasMoved(part);
     }
     QPen outline(SheetPart part, bool gone = false) const;
+    /// Draws a part where it lies.
     void fill(const QPainterPath &shape, SheetPart part, const QColor &color, bool gone = false);
+    /// Draws a sheet, folded as all are, so far from the front one.
     void fillSheet(SheetPart part, const QColor &color, const QPointF &at = {}, bool gone = false);
 
     void paintSets(const QPointF &center);
@@ -60,16 +54,14 @@ private:
     void paintCover();
     void paintBooklet();
     void paintBookletPages();
-    QVector<Panel> panels(Fold fold) const;
     void paintCreases();
-    /// Draws what is flat as it lies on the folded sheet, a panel after the other.
-    void paintPanels(const std::function<void()> &flat);
 
     QPainter *const painter;
     const SheetSketch &sketch;
     const SheetSketch &before;
     const QSizeF size;
     const QRectF page;
+    const SheetFold fold;
     QVector<SheetArea> areas;
     SheetContent content;
 };

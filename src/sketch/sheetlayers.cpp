@@ -61,11 +61,8 @@ void SheetDrawing::paintStacks()
         QPainterPath across;
         QRectF turned(QPointF(), size.transposed());
         turned.moveCenter(page.center() + QPointF(0, 3));
-        across.addRect(turned.toRect().adjusted(0, 0, 0, 0));
-        painter->save();
-        painter->translate(0.5, 0.5);
+        across.addRect(QRectF(turned.toRect()).adjusted(0.5, 0.5, -0.5, -0.5));
         fill(across, SheetPart::Separation, color, gone);
-        painter->restore();
     }
 }
 
@@ -117,7 +114,8 @@ void SheetDrawing::paintBackSide()
     shape.closeSubpath();
     shape.translate(-0.5, -0.5);
     const bool moved = sketch.hasMoved(SheetPart::BackSide);
-    fill(shape, SheetPart::BackSide, moved ? SheetColors::accentGround : SheetColors::back, gone);
+    fill(fold.map(shape), SheetPart::BackSide,
+         moved ? SheetColors::accentGround : SheetColors::back, gone);
 }
 
 void SheetDrawing::paintCover()
@@ -127,24 +125,24 @@ void SheetDrawing::paintCover()
         return;
     // Swung open, so that what is behind it shows.
     const bool atRight = sketch.booklet == SheetSketch::Binding::Right;
-    const double shift = panels(sketch.fold).first().topShift;
-    painter->save();
-    painter->translate(atRight ? size.width() - 0.5 : shift + 0.5, 0);
-    if (atRight)
-        painter->scale(-1, 1);
+    const double hinge = atRight ? page.right() - 0.5 : 0.5;
+    const double out = atRight ? flap + 3 : -flap - 3;
+    const double up = -(flap + 3) / 2;
     const double h = size.height() - 1;
-    const double wide = flap + 3;
-    const QPolygonF leaf({{0, 0.5}, {-wide, -wide / 2}, {-wide, h - wide / 2}, {0, h + 0.5}});
-    QPainterPath shape;
-    shape.addPolygon(leaf);
-    shape.closeSubpath();
-    fill(shape, SheetPart::Cover, sketch.coverTint.darker(112), gone);
-    if (sketch.coverPrinted && !gone) {
-        painter->setPen(QPen(SheetColors::line, 2));
-        for (double y = h * 0.2; y < h * 0.8; y += 8)
-            painter->drawLine(QLineF(-3, y - 2, -wide + 4, y - wide / 2 + 2));
+    QPainterPath leaf(QPointF(hinge, 0.5));
+    leaf.lineTo(hinge + out, 0.5 + up);
+    leaf.lineTo(hinge + out, h + 0.5 + up);
+    leaf.lineTo(hinge, h + 0.5);
+    leaf.closeSubpath();
+    fill(fold.map(leaf), SheetPart::Cover, sketch.coverTint.darker(112), gone);
+    if (!sketch.coverPrinted || gone)
+        return;
+    QPainterPath lines;
+    for (double y = h * 0.2; y < h * 0.8; y += 8) {
+        lines.moveTo(hinge + out * 0.2, y + up * 0.2);
+        lines.lineTo(hinge + out * 0.8, y + up * 0.8);
     }
-    painter->restore();
+    painter->strokePath(fold.map(lines), QPen(SheetColors::line, 2));
 }
 
 // A booklet

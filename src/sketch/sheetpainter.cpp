@@ -11,12 +11,13 @@
 namespace {
 
 // In pixels.
+constexpr int usualHeight = 200;
+constexpr int leastHeight = 120;
 constexpr QSizeF whole(160, 190); // what the biggest drawing takes
 constexpr double longestEdge = 130;
 constexpr double biggestPaper = 420; // in millimetres: A3, from which on all are drawn as long
 constexpr double bookletZoom = 1.25; // of the folded sheet, or it would look lost
-constexpr double foldDepth = 12;
-constexpr double setRow = 24; // the room for collation
+constexpr double setRow = 24;        // the room for collation
 
 const QColor ghost(0xd6, 0xe8, 0xfb, 80);
 const QColor shade(0x2b, 0x34, 0x40, 22); // on every other panel of a folded sheet
@@ -66,9 +67,9 @@ QVector<SheetArea> SheetDrawing::paint(const QRectF &rect)
     if (isFoldedBooklet()) {
         paintBooklet();
     } else {
-        paintPanels([this] { paintBehind(); });
-        paintPanels([this] { paintBackSide(); });
-        paintPanels([this] { paintFront(); });
+        paintBehind();
+        paintBackSide();
+        paintFront();
         paintCreases();
     }
     paintCover();
@@ -99,8 +100,8 @@ void SheetDrawing::fill(const QPainterPath &shape, SheetPart part, const QColor 
 void SheetDrawing::fillSheet(SheetPart part, const QColor &color, const QPointF &at, bool gone)
 {
     QPainterPath sheet;
-    sheet.addRect(page.translated(at).adjusted(0.5, 0.5, -0.5, -0.5));
-    fill(sheet, part, color, gone);
+    sheet.addRect(page.adjusted(0.5, 0.5, -0.5, -0.5));
+    fill(fold.map(sheet).translated(at), part, color, gone);
 }
 
 // One sheet and those that lie below it
@@ -112,14 +113,13 @@ void SheetDrawing::paintFront()
         paper.setAlphaF(0.6);
     fillSheet(SheetPart::Paper, paper);
     if (sketch.seeThrough) {
-        // A gleam across it.
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(QColor(255, 255, 255, 90));
         const double w = size.width();
-        painter->drawPolygon(QPolygonF({{w * 0.55, 1},
-                                        {w * 0.8, 1},
-                                        {1 + w * 0.25, size.height() - 1},
-                                        {1, size.height() - 1}}));
+        QPainterPath gleam;
+        gleam.addPolygon(QPolygonF({{w * 0.55, 1},
+                                    {w * 0.8, 1},
+                                    {1 + w * 0.25, size.height() - 1},
+                                    {1, size.height() - 1}}));
+        painter->fillPath(fold.map(gleam), QColor(255, 255, 255, 90));
     }
     paintFlat();
 }
@@ -134,65 +134,15 @@ void SheetDrawing::paintFlat()
     content.paintBinding(page, false);
 }
 
-QVector<Panel> SheetDrawing::panels(Fold fold) const
-{
-    const double h = size.height();
-    const double d = foldDepth;
-    const double half = std::round(h / 2);
-    const double third = std::round(h / 3);
-    switch (fold) {
-    case Fold::Half:
-        return {{0, half, d / 2, -d / 2}, {half, h, -d / 2, d / 2}};
-    case Fold::Inward:
-        return {{0, third, d / 2, -d / 2},
-                {third, 2 * third, -d / 2, -d / 2},
-                {2 * third, h, -d / 2, d / 2}};
-    case Fold::Zigzag:
-        return {{0, third, -d / 2, d / 2},
-                {third, 2 * third, d / 2, -d / 2},
-                {2 * third, h, -d / 2, d / 2}};
-    case Fold::Thirds:
-        return {{0, third, 0, 0}, {third, 2 * third, 0, 0}, {2 * third, h, 0, 0}};
-    case Fold::None:
-        break;
-    }
-    return {{0, h, 0, 0}};
-}
-
-void SheetDrawing::paintPanels(const std::function<void()> &flat)
-{
-    const QVector<Panel> all = panels(sketch.fold);
-    if (all.size() == 1) {
-        flat();
-        return;
-    }
-    for (int i = 0; i < all.size(); ++i) {
-        const Panel &panel = all[i];
-        const double slope = (panel.bottomShift - panel.topShift) / (panel.bottom - panel.top);
-        painter->save();
-        painter->setTransform(QTransform(1, 0, slope, 1, panel.topShift - slope * panel.top, 0),
-                              true);
-        // What peeps out above and below belongs to the outer panels.
-        constexpr double beyond = 100;
-        const double top = i == 0 ? -beyond : panel.top;
-        const double bottom = i == all.size() - 1 ? size.height() + beyond : panel.bottom;
-        const QRectF strip(-beyond, top, size.width() + 2 * beyond, bottom - top);
-        painter->setClipRect(strip, Qt::IntersectClip);
-        content.setClip(strip);
-        flat();
-        content.setClip({});
-        painter->restore();
-    }
-}
-
 void SheetDrawing::paintCreases()
 {
     const bool gone = isGone(SheetPart::Fold, sketch.fold != Fold::None, before.fold != Fold::None);
-    const QVector<Panel> all = panels(gone ? before.fold : sketch.fold);
+    const QVector<SheetFold::Panel> all =
+        gone ? SheetFold(before.fold, size).panels() : fold.panels();
     painter->setPen(Qt::NoPen);
     painter->setBrush(shade);
     for (int i = 1; i < all.size() && !gone; i += 2) {
-        const Panel &panel = all[i];
+        const SheetFold::Panel &panel = all[i];
         const double w = size.width();
         painter->drawPolygon(QPolygonF({{panel.topShift, panel.top},
                                         {panel.topShift + w, panel.top},
@@ -210,6 +160,14 @@ void SheetDrawing::paintCreases()
         area.addRect(QRectF(crease.p1() - QPointF(0, 5), crease.p2() + QPointF(0, 5)));
         content.addArea(SheetPart::Fold, area);
     }
+}
+
+QRect sheetPlace(const QSize &column, int top)
+{
+    const int height = std::min(column.height() - top, usualHeight);
+    if (height < leastHeight)
+        return {};
+    return {0, column.height() - height, column.width(), height};
 }
 
 QVector<SheetArea> paintSheets(QPainter *painter, const QRectF &rect, const SheetSketch &sketch,

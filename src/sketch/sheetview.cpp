@@ -25,10 +25,6 @@
 
 namespace {
 
-// In pixels.
-constexpr int usualHeight = 200;
-constexpr int leastHeight = 120;
-
 /// What takes the focus for a bound widget; null if nothing can now.
 QWidget *focusTarget(QWidget *control)
 {
@@ -110,10 +106,9 @@ void SheetView::showSettings(const QHash<QString, QString> &moved)
 void SheetView::place()
 {
     const QRect bar = tabs->tabBar()->geometry();
-    const int room = tabs->height() - (bar.bottom() + 1);
-    const int height = std::min(room, usualHeight);
-    setGeometry(0, tabs->height() - height, bar.width(), height);
-    setVisible(currentStore && room >= leastHeight);
+    const QRect free = sheetPlace({bar.width(), tabs->height()}, bar.bottom() + 1);
+    setGeometry(free);
+    setVisible(currentStore && !free.isEmpty());
 }
 
 bool SheetView::eventFilter(QObject *, QEvent *event)

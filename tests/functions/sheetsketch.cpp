@@ -1,7 +1,6 @@
-#include "sketch/sheetsketch.h"
-
 #include "functiontests.h"
 #include "model/optionstore.h"
+#include "sketch/sheetpainter.h"
 #include "support/storebuilder.h"
 
 /// The options of a printer that can do everything, with some values that nobody knows.
@@ -208,4 +207,19 @@ insert     | 10 | cInsBut Pmed
 backing    | 11 | cIntBut Tmed
 separation | 12 | Sep
 collation  | 13 | Coll
+)");
+
+static QStringList place(const QStringList &in)
+{
+    const QRect rect = sheetPlace({173, in[0].toInt()}, in[1].toInt());
+    return {rect.isEmpty() ? "hidden" : QString("%1 high at %2").arg(rect.height()).arg(rect.y())};
+}
+
+static const FunctionTests::Table placeTable("TestSheetPlace", 2, place, R"(
+more room than it takes | 650 | 245 | 200 high at 450
+as much as it takes     | 650 | 450 | 200 high at 450
+less                    | 650 | 500 | 150 high at 500
+just enough             | 650 | 530 | 120 high at 530
+too little              | 650 | 531 | hidden
+none at all             | 650 | 700 | hidden
 )");
