@@ -218,6 +218,14 @@ Reloading list now.</translation>
         <source>Print server does not answer.</source>
         <translation>Print server does not answer.</translation>
     </message>
+    <message>
+        <source>The settings could not be saved in %1.</source>
+        <translation>The settings could not be saved in %1.</translation>
+    </message>
+    <message>
+        <source>The print system may use them all the same.</source>
+        <translation>The print system may use them all the same.</translation>
+    </message>
 </context>
 <context>
     <name>BixTabWidget</name>
@@ -1041,6 +1049,10 @@ For example: %1</translation>
     <message>
         <source>The name or the description is too long.</source>
         <translation>The name or the description is too long.</translation>
+    </message>
+    <message>
+        <source>The profile could not be saved.</source>
+        <translation>The profile could not be saved.</translation>
     </message>
 </context>
 <context>

@@ -218,6 +218,14 @@ La liste va être rechargée.</translation>
         <source>Print server does not answer.</source>
         <translation>Le serveur d&apos;impression ne répond pas.</translation>
     </message>
+    <message>
+        <source>The settings could not be saved in %1.</source>
+        <translation>Les paramètres n’ont pas pu être enregistrés dans %1.</translation>
+    </message>
+    <message>
+        <source>The print system may use them all the same.</source>
+        <translation>Le système d’impression les utilise peut-être malgré tout.</translation>
+    </message>
 </context>
 <context>
     <name>BixTabWidget</name>
@@ -1041,6 +1049,10 @@ Par exemple : %1</translation>
     <message>
         <source>The name or the description is too long.</source>
         <translation>Le nom ou la description est trop long.</translation>
+    </message>
+    <message>
+        <source>The profile could not be saved.</source>
+        <translation>Le profil n’a pas pu être enregistré.</translation>
     </message>
 </context>
 <context>

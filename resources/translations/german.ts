@@ -218,6 +218,14 @@ Die Liste wird neu geladen.</translation>
         <source>Print server does not answer.</source>
         <translation>Der Druckserver antwortet nicht.</translation>
     </message>
+    <message>
+        <source>The settings could not be saved in %1.</source>
+        <translation>Die Einstellungen konnten nicht in %1 gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The print system may use them all the same.</source>
+        <translation>Das Drucksystem verwendet sie möglicherweise trotzdem.</translation>
+    </message>
 </context>
 <context>
     <name>BixTabWidget</name>
@@ -1041,6 +1049,10 @@ Zum Beispiel: %1</translation>
     <message>
         <source>The name or the description is too long.</source>
         <translation>Der Name oder die Beschreibung ist zu lang.</translation>
+    </message>
+    <message>
+        <source>The profile could not be saved.</source>
+        <translation>Das Profil konnte nicht gespeichert werden.</translation>
     </message>
 </context>
 <context>

@@ -218,6 +218,14 @@ L&apos;elenco viene ricaricato.</translation>
         <source>Print server does not answer.</source>
         <translation>Il server di stampa non risponde.</translation>
     </message>
+    <message>
+        <source>The settings could not be saved in %1.</source>
+        <translation>Impossibile salvare le impostazioni in %1.</translation>
+    </message>
+    <message>
+        <source>The print system may use them all the same.</source>
+        <translation>Il sistema di stampa potrebbe usarle comunque.</translation>
+    </message>
 </context>
 <context>
     <name>BixTabWidget</name>
@@ -1041,6 +1049,10 @@ Ad esempio: %1</translation>
     <message>
         <source>The name or the description is too long.</source>
         <translation>Il nome o la descrizione è troppo lungo.</translation>
+    </message>
+    <message>
+        <source>The profile could not be saved.</source>
+        <translation>Impossibile salvare il profilo.</translation>
     </message>
 </context>
 <context>

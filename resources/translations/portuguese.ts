@@ -218,6 +218,14 @@ A lista vai ser recarregada.</translation>
         <source>Print server does not answer.</source>
         <translation>O servidor de impressão não responde.</translation>
     </message>
+    <message>
+        <source>The settings could not be saved in %1.</source>
+        <translation>Não foi possível guardar as definições em %1.</translation>
+    </message>
+    <message>
+        <source>The print system may use them all the same.</source>
+        <translation>Mesmo assim, o sistema de impressão pode usá-las.</translation>
+    </message>
 </context>
 <context>
     <name>BixTabWidget</name>
@@ -1041,6 +1049,10 @@ Por exemplo: %1</translation>
     <message>
         <source>The name or the description is too long.</source>
         <translation>O nome ou a descrição é demasiado longo.</translation>
+    </message>
+    <message>
+        <source>The profile could not be saved.</source>
+        <translation>Não foi possível guardar o perfil.</translation>
     </message>
 </context>
 <context>

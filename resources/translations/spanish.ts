@@ -218,6 +218,14 @@ Se volverá a cargar la lista.</translation>
         <source>Print server does not answer.</source>
         <translation>El servidor de impresión no responde.</translation>
     </message>
+    <message>
+        <source>The settings could not be saved in %1.</source>
+        <translation>No se pudieron guardar los ajustes en %1.</translation>
+    </message>
+    <message>
+        <source>The print system may use them all the same.</source>
+        <translation>Es posible que el sistema de impresión los use de todos modos.</translation>
+    </message>
 </context>
 <context>
     <name>BixTabWidget</name>
@@ -1041,6 +1049,10 @@ Por ejemplo: %1</translation>
     <message>
         <source>The name or the description is too long.</source>
         <translation>El nombre o la descripción es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>The profile could not be saved.</source>
+        <translation>No se pudo guardar el perfil.</translation>
     </message>
 </context>
 <context>

@@ -16,6 +16,23 @@
 
 // Publication: the settings file, the print system, the desktop applications.
 
+namespace {
+
+/// \param published the print system has been told of the settings that a file could not take
+void tellUnsaved(PanelDialog *dialog, const QString &path, bool published)
+{
+    QMessageBox box(dialog);
+    box.setWindowTitle(BixDialog::tr("Error"));
+    QString text = BixDialog::tr("The settings could not be saved in %1.").arg(path);
+    if (published)
+        text += QLatin1Char('\n') + BixDialog::tr("The print system may use them all the same.");
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    box.exec();
+}
+
+} // namespace
+
 void BixDialog::writeTolpoptions()
 {
     published = false;
@@ -27,12 +44,15 @@ void BixDialog::writeTolpoptions()
         return;
     }
     const Settings settings = collector->collect();
-    writeCfg(cfgPath(printer), settings, true);
-    if (!publish(printer, settings)) {
-        showFailedPublication();
-        return;
+    const bool saved = writeCfg(cfgPath(printer), settings, true);
+    const bool complete = publish(printer, settings);
+    if (!saved) {
+        tellUnsaved(this, cfgPath(printer), complete);
+        closeAfterApply = false; // with the window the choices would be gone
     }
-    published = true;
+    if (!complete)
+        showFailedPublication();
+    published = saved && complete;
 }
 
 void BixDialog::showFailedPublication()

@@ -9,7 +9,6 @@
 #include <QLocale>
 #include <QRadioButton>
 #include <QTextEdit>
-#include <QTextStream>
 #include <QVBoxLayout>
 
 namespace {
@@ -28,6 +27,20 @@ QString policyText(const QString &localeName)
         resource += QLatin1Char('_') + language;
     QFile file(resource);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// Writes the line over the start of the user's "Settings" file.
+void recordAnswer(const QByteArray &line)
+{
+    const QString path = settingsPath();
+    QFile settings;
+    QByteArray text;
+    if (OwnFile::openToRead(&settings, path))
+        text = settings.readAll();
+    else if (OwnFile::isForeign(path) || QFile::exists(path))
+        return;
+    if (settings.error() == QFileDevice::NoError)
+        OwnFile::replace(path, text.replace(0, line.size(), line));
 }
 
 } // namespace
@@ -85,11 +98,6 @@ int TelemetryDialog::exec()
 
 void TelemetryDialog::accept()
 {
-    QFile settings;
-    // Not truncated: other entries may stand below.
-    if (OwnFile::openToWrite(&settings, settingsPath(), false)) {
-        QTextStream stream(&settings);
-        stream << (yesButton->isChecked() ? consent : refusal) << '\n';
-    }
+    recordAnswer(QByteArray((yesButton->isChecked() ? consent : refusal).data()) + '\n');
     QDialog::accept();
 }

@@ -23,7 +23,8 @@ public slots:
 
 protected slots:
     /// Writes the line "Telemetry=True" or "Telemetry=False" over the start of the file and leaves
-    /// whatever reaches beyond it: lines of others may follow. Silent if that can't be done.
+    /// whatever reaches beyond it: lines of others may follow. Silent if that can't be done; the
+    /// file is as it was then.
     void accept() override;
 
 private:

@@ -3,7 +3,7 @@
 #include "storage/ownfile.h"
 #include "storage/settingsfile.h"
 
-#include <QFile>
+#include <QString>
 
 #include <algorithm>
 #include <cstdio>
@@ -39,9 +39,7 @@ bool record(std::string_view answer)
         std::fprintf(stderr, "%s is no file of your own: nothing is written\n", qPrintable(path));
         return false;
     }
-    QFile settings;
-    if (OwnFile::openToWrite(&settings, path, true))
-        settings.write(line);
+    OwnFile::replace(path, line);
     return true;
 }
 

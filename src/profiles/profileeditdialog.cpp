@@ -47,6 +47,8 @@ void ProfileEditDialog::prepare()
 
 void ProfileEditDialog::editProfile()
 {
-    rewriteProfile(oldName, name(), description());
-    close();
+    if (rewriteProfile(oldName, name(), description()))
+        close();
+    else
+        tellUnsaved();
 }

@@ -9,6 +9,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTextEdit>
 
@@ -85,6 +86,14 @@ void ProfileFormDialog::checkFields()
     QPushButton *ok = buttonBox->button(QDialogButtonBox::Ok);
     ok->setEnabled(fault == ProfileFault::None);
     ReasonTip::setIfGrey(ok, faultText(fault));
+}
+
+void ProfileFormDialog::tellUnsaved()
+{
+    QMessageBox box(this);
+    box.setWindowTitle(windowTitle());
+    box.setText(tr("The profile could not be saved."));
+    box.exec();
 }
 
 QString ProfileFormDialog::faultText(ProfileFault fault)

@@ -29,6 +29,8 @@ protected:
     void refreshQueueNames();
     /// Enables the OK button or disables it.
     void checkFields();
+    /// Says that the profile could not be written. The dialog stays, with what was typed.
+    void tellUnsaved();
 
     QLineEdit *nameEdit;
     QTextEdit *descriptionEdit;

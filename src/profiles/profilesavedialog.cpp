@@ -66,8 +66,10 @@ void ProfileSaveDialog::saveProfile()
         return;
     }
     const Settings &settings = settingsSource->collect();
-    writeProfile(profilePath(name()), settings, false, description());
-    close();
+    if (writeProfile(profilePath(name()), settings, false, description()))
+        close();
+    else
+        tellUnsaved();
 }
 
 void ProfileSaveDialog::showMessage(QWidget *parent, const QString &text)

@@ -38,24 +38,30 @@ QString quoted(QString path)
     return QLatin1Char('"') + path + QLatin1Char('"');
 }
 
-void run(const QString &command)
+/// True if it came to its end with status 0.
+bool run(const QString &command)
 {
     QProcess process;
-    runCommand(&process, command);
+    return runCommand(&process, command) && process.exitStatus() == QProcess::NormalExit &&
+           process.exitCode() == 0;
 }
 
-bool copyWithDescription(QFile *from, QFile *to, const QByteArray &description)
+/// A profile's text with another description; null if the profile can't be read.
+QByteArray textWithDescription(const QString &path, const QByteArray &description)
 {
+    QFile file;
+    if (!OwnFile::openToRead(&file, path))
+        return QByteArray();
+    QByteArray text("");
     // An empty line ends with its line feed, so nothing at all is the end or an error.
-    for (QByteArray line = from->readLine(); !line.isEmpty(); line = from->readLine()) {
+    for (QByteArray line = file.readLine(); !line.isEmpty(); line = file.readLine()) {
         if (line.endsWith('\n'))
             line.chop(1);
         if (line.contains("ProfileDescription"))
             line = "ProfileDescription=" + description;
-        to->write(line + '\n');
+        text += line + '\n';
     }
-    to->flush();
-    return from->error() == QFileDevice::NoError && to->error() == QFileDevice::NoError;
+    return file.error() == QFileDevice::NoError ? text : QByteArray();
 }
 
 } // namespace
@@ -99,22 +105,23 @@ void removeProfile(const QString &path)
     run(QStringLiteral("rm -f ") + quoted(path));
 }
 
-void rewriteProfile(const QString &oldName, const QString &newName, const QString &description)
+bool rewriteProfile(const QString &oldName, const QString &newName, const QString &description)
 {
+    const QString newPath = cfgPath(newName);
     const QString copyPath = userDir + newName + QStringLiteral(".tmp");
-    QFile from;
-    QFile copy;
-    if (!OwnFile::openToRead(&from, cfgPath(oldName)) ||
-        !OwnFile::openToWrite(&copy, copyPath, true))
-        return;
-    // With a full disk the profile is worth more than its new description.
-    if (!copyWithDescription(&from, &copy, description.toUtf8())) {
+    const QByteArray text = textWithDescription(cfgPath(oldName), description.toUtf8());
+    // Into a folder the copy would be moved, not into its place.
+    if (text.isNull() || QFileInfo(newPath).isDir() || !OwnFile::replace(copyPath, text))
+        return false;
+    const bool moved =
+        run(QStringLiteral("mv ") + quoted(copyPath) + QLatin1Char(' ') + quoted(newPath));
+    if (!moved || readProfileText(newPath) != text) {
         QFile::remove(copyPath);
-        return;
+        return false;
     }
-    QFile::remove(cfgPath(oldName));
-    copy.close();
-    run(QStringLiteral("mv ") + quoted(copyPath) + QLatin1Char(' ') + quoted(cfgPath(newName)));
+    if (newName != oldName)
+        QFile::remove(cfgPath(oldName));
+    return true;
 }
 
 QStringList queuesWithPpd()

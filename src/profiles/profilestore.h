@@ -28,7 +28,8 @@ void removeProfile(const QString &path);
 /// Writes a profile anew under a name, which may be the old one, with another description (see
 /// storedDescription()), and moves it into place by running `mv`. A profile of that name is
 /// replaced. Every line that contains "ProfileDescription" anywhere is taken for the description.
-void rewriteProfile(const QString &oldName, const QString &newName, const QString &description);
+/// The old name goes last: false if something before that failed, and all is as it was.
+bool rewriteProfile(const QString &oldName, const QString &newName, const QString &description);
 
 /// The print queues that have a PPD, by its file name in "/etc/cups/ppd" up to the first dot.
 QStringList queuesWithPpd();

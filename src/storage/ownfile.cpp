@@ -29,23 +29,73 @@ int openDirectory(QByteArray path)
     return -1;
 }
 
-/// The file, opened; -1 if it doesn't count.
-int openRegular(const QString &path, int flags)
+/// Where a file lies: its directory, open as long as this lives, and its name there.
+struct Place
 {
-    const QByteArray name = QFile::encodeName(path);
-    const int slash = name.lastIndexOf('/');
-    const int directory = openDirectory(slash < 0 ? QByteArray(".") : name.left(slash + 1));
-    if (directory < 0)
+    explicit Place(const QString &path)
+        : name(QFile::encodeName(path))
+    {
+        const int slash = name.lastIndexOf('/');
+        directory = openDirectory(slash < 0 ? QByteArray(".") : name.left(slash + 1));
+        name.remove(0, slash + 1);
+    }
+    Place(const Place &) = delete;
+    Place &operator=(const Place &) = delete;
+    ~Place()
+    {
+        if (directory >= 0)
+            close(directory);
+    }
+
+    int directory; ///< -1 if it doesn't count
+    QByteArray name;
+};
+
+/// A file there, opened; -1 with `errno` set if it doesn't count.
+int openRegular(const Place &place, const QByteArray &name, int flags)
+{
+    if (place.directory < 0)
         return -1;
     // Not blocking: a pipe would wait for somebody at its other end.
-    const int file = openat(directory, name.mid(slash + 1).constData(),
+    const int file = openat(place.directory, name.constData(),
                             flags | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, 0666);
-    close(directory);
     struct stat status;
     if (file < 0 || (fstat(file, &status) == 0 && S_ISREG(status.st_mode) && isOurs(status)))
         return file;
     close(file);
+    errno = EPERM;
     return -1;
+}
+
+/// Writes all of it, onto the disk: some file systems tell only then that they are full.
+bool writeAll(int descriptor, const QByteArray &content)
+{
+    QFile file;
+    return file.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered,
+                     QFileDevice::DontCloseHandle) &&
+           file.write(content) == content.size() && fsync(descriptor) == 0;
+}
+
+/// Writes the content over that of a file in a folder that takes no other one.
+bool overwrite(const Place &place, const QByteArray &content)
+{
+    const int file = openRegular(place, place.name, O_WRONLY);
+    struct stat before = {};
+    if (file < 0 || fstat(file, &before) != 0)
+        return false;
+    // The room is asked for first, so that a full disk spoils nothing.
+    const bool hasRoom =
+        content.size() <= before.st_size || posix_fallocate(file, 0, content.size()) == 0;
+    const bool written = hasRoom && writeAll(file, content);
+    const bool cut = ftruncate(file, written ? content.size() : before.st_size) == 0;
+    close(file);
+    return written && cut;
+}
+
+/// Whether a file couldn't be made because of the folder, not of the disk.
+bool isRefusedByFolder(int error)
+{
+    return error == EACCES || error == EPERM || error == EROFS || error == EEXIST;
 }
 
 } // namespace
@@ -81,7 +131,8 @@ bool OwnFile::isForeign(const QString &path)
 
 bool OwnFile::openToRead(QFile *file, const QString &path, qint64 largest)
 {
-    const int opened = openRegular(path, O_RDONLY);
+    const Place place(path);
+    const int opened = openRegular(place, place.name, O_RDONLY);
     if (opened < 0 || !file->open(opened, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
         return false;
     if (file->size() <= largest)
@@ -90,13 +141,23 @@ bool OwnFile::openToRead(QFile *file, const QString &path, qint64 largest)
     return false;
 }
 
-bool OwnFile::openToWrite(QFile *file, const QString &path, bool truncate)
+bool OwnFile::replace(const QString &path, const QByteArray &content)
 {
-    const int opened = openRegular(path, O_RDWR | O_CREAT);
-    if (opened < 0 || !file->open(opened, QIODevice::ReadWrite, QFileDevice::AutoCloseHandle))
+    const Place place(path);
+    if (place.directory < 0)
         return false;
-    if (!truncate || file->resize(0))
+    // No other running program has this name. It is short, since a profile's can be as long as
+    // names may be, and hidden, so that nobody counts what a killed program left as a profile.
+    const QByteArray temporary = ".writing-" + QByteArray::number(getpid());
+    unlinkat(place.directory, temporary.constData(), 0);
+    const int file = openRegular(place, temporary, O_WRONLY | O_CREAT | O_EXCL);
+    if (file < 0)
+        return isRefusedByFolder(errno) && overwrite(place, content);
+    const bool written = writeAll(file, content);
+    close(file);
+    if (written && renameat(place.directory, temporary.constData(), place.directory,
+                            place.name.constData()) == 0)
         return true;
-    file->close();
+    unlinkat(place.directory, temporary.constData(), 0);
     return false;
 }

@@ -26,8 +26,11 @@ bool isForeign(const QString &path);
 /// more than `largest` bytes.
 bool openToRead(QFile *file, const QString &path, qint64 largest = largestSettings);
 
-/// Opens a file for reading and writing, and makes it if it is missing (mode 0666 less the umask).
-/// With `truncate` it is empty then. False, with `file` closed, for any that doesn't count.
-bool openToWrite(QFile *file, const QString &path, bool truncate);
+/// Replaces what a file holds, or makes it, so that it is never seen half written: the content goes
+/// into a hidden file beside it (mode 0666 less the umask), onto the disk, and then takes the
+/// file's name. In a folder that takes no further file the old one is written over instead. False
+/// if the directory doesn't count, if a folder has the name, or if the disk is full; the file is as
+/// it was then. A program that is killed may leave the hidden file.
+bool replace(const QString &path, const QByteArray &content);
 
 } // namespace OwnFile

@@ -59,28 +59,23 @@ enum class Heading
     Profile
 };
 
-void writeFile(const QString &path, const Settings &settings, Heading heading,
+bool writeFile(const QString &path, const Settings &settings, Heading heading,
                const QString *description)
 {
-    ensureUserDir();
-    if (!OwnFile::isOwnDirectory(userDir))
-        return;
-    unlink(QFile::encodeName(path).constData());
-    QFile file;
-    // In a folder that can't be written to, the old file is still there and must not show through.
-    if (!OwnFile::openToWrite(&file, path, true))
-        return;
-    QTextStream stream(&file);
+    QByteArray text;
+    QTextStream stream(&text);
     stream.setCodec("UTF-8");
     if (heading == Heading::Profile)
-        stream << "[Profile]" << Qt::endl;
+        stream << "[Profile]\n";
     if (heading != Heading::None)
-        stream << '[' << oneLine(currentStore ? currentStore->modelName() : QString()) << ']'
-               << Qt::endl;
+        stream << '[' << oneLine(currentStore ? currentStore->modelName() : QString()) << "]\n";
     if (description)
-        stream << "ProfileDescription=" << oneLine(*description) << Qt::endl;
+        stream << "ProfileDescription=" << oneLine(*description) << '\n';
     for (auto entry = settings.cbegin(); entry != settings.cend(); ++entry)
-        stream << oneLine(entry.key()) << '=' << oneLine(entry.value()) << Qt::endl;
+        stream << oneLine(entry.key()) << '=' << oneLine(entry.value()) << '\n';
+    stream.flush();
+    ensureUserDir();
+    return OwnFile::replace(path, text);
 }
 
 } // namespace
@@ -120,15 +115,15 @@ bool cfgExists(const QString &printer)
     return stat(QFile::encodeName(cfgPath(printer)).constData(), &status) == 0;
 }
 
-void writeCfg(const QString &path, const Settings &settings, bool plain)
+bool writeCfg(const QString &path, const Settings &settings, bool plain)
 {
-    writeFile(path, settings, plain ? Heading::None : Heading::Profile, nullptr);
+    return writeFile(path, settings, plain ? Heading::None : Heading::Profile, nullptr);
 }
 
-void writeProfile(const QString &path, const Settings &settings, bool plain,
+bool writeProfile(const QString &path, const Settings &settings, bool plain,
                   const QString &description)
 {
-    writeFile(path, settings, plain ? Heading::Model : Heading::Profile, &description);
+    return writeFile(path, settings, plain ? Heading::Model : Heading::Profile, &description);
 }
 
 QString readSetting(const QString &key)
@@ -156,15 +151,13 @@ bool updateSetting(const QString &key, const QString &value)
     const QString path = settingsPath();
     const QString temporaryPath = path + QStringLiteral("_tmp");
     QFile settings;
-    QFile temporary;
-    // Both are tried whatever becomes of the first, so a lone empty copy may stay behind.
-    const bool readable = OwnFile::openToRead(&settings, path);
-    const bool writable = OwnFile::openToWrite(&temporary, temporaryPath, true);
-    if (!readable || !writable)
+    if (!OwnFile::openToRead(&settings, path)) {
+        OwnFile::replace(temporaryPath, QByteArray()); // so a lone empty copy may stay behind
         return false;
-
+    }
     QTextStream in(&settings);
-    QTextStream out(&temporary);
+    QByteArray text;
+    QTextStream out(&text);
     bool found = false;
     while (!in.atEnd()) {
         QString line = in.readLine();
@@ -177,13 +170,7 @@ bool updateSetting(const QString &key, const QString &value)
     if (!found)
         out << key << '=' << value << '\n';
     out.flush();
-    settings.close();
-    temporary.close();
-    // With a full disk the old file is worth more than half a new one.
-    if (out.status() != QTextStream::Ok || temporary.error() != QFileDevice::NoError) {
-        QFile::remove(temporaryPath);
-        return false;
-    }
-    return std::rename(QFile::encodeName(temporaryPath).constData(),
+    return settings.error() == QFileDevice::NoError && OwnFile::replace(temporaryPath, text) &&
+           std::rename(QFile::encodeName(temporaryPath).constData(),
                        QFile::encodeName(path).constData()) == 0;
 }

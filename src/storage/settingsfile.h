@@ -10,7 +10,7 @@
 /// "=". Keys are case-sensitive; there are no comments, quotes or escapes. The first line with a
 /// key wins, except for readSettingValues(). A line of more than 1024 characters is read as
 /// several. The functions are silent: what can't be read yields nothing, what can't be written
-/// stays as is.
+/// stays as is. Files are replaced as a whole, see OwnFile::replace().
 
 /// The per-user directory with a slash at the end. Written by the main dialog as it is made.
 extern QString userDir;
@@ -33,11 +33,12 @@ QString cfgPath(const QString &printer);
 bool cfgExists(const QString &printer);
 
 /// Replaces the file by the entries in the order of the hash. With `plain` false two lines come
-/// first: "[Profile]" and the selected printer's model name in square brackets.
-void writeCfg(const QString &path, const Settings &settings, bool plain);
+/// first: "[Profile]" and the selected printer's model name in square brackets. False if the file
+/// can't be written, and is as it was.
+bool writeCfg(const QString &path, const Settings &settings, bool plain);
 /// Like writeCfg(), with the line "ProfileDescription=" and the description after the two; line
 /// feeds in it have to be escaped by the caller.
-void writeProfile(const QString &path, const Settings &settings, bool plain,
+bool writeProfile(const QString &path, const Settings &settings, bool plain,
                   const QString &description);
 
 /// The value of the first line with the key in `currentCfgPath`; null if there is none, or if it

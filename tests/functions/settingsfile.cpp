@@ -4,14 +4,19 @@
 
 #include "functiontests.h"
 #include "model/optionstore.h"
+#include "profiles/profilestore.h"
 #include "support/testhelpers.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <climits>
 #include <csignal>
+#include <sys/ptrace.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 class TestSettingsFile : public QObject
 {
@@ -30,9 +35,15 @@ private slots:
     void directoryIsMadeWithItsParents();
     void updated_data();
     void updated();
-    void updatedOnFullDisk();
+    void wholeAtEachKill_data();
+    void wholeAtEachKill();
+    void wholeOnFullDisk_data();
+    void wholeOnFullDisk();
 
 private:
+    void laySettings();
+    static QByteArray savedText();
+
     std::unique_ptr<QTemporaryDir> directory;
 };
 
@@ -125,22 +136,129 @@ void TestSettingsFile::updated()
     QCOMPARE(QFile::exists(path + "_tmp"), !found);
 }
 
-void TestSettingsFile::updatedOnFullDisk()
+// Each way to save is stopped, or refused the disk, where something is saved already: that or the
+// new text has to be there afterwards, as a whole.
+
+namespace {
+
+const Settings changed{{"Key", QString(1 << 17, 'n')}};
+const QByteArray textBefore =
+    "[Profile]\nProfileDescription=old\nKey=" + QByteArray(300, 'o') + '\n';
+
+const std::pair<const char *, bool (*)()> waysToSave[] = {
+    {"a printer's settings", [] { return writeCfg(cfgPath("Office"), changed, true); }},
+    {"a profile", [] { return writeProfile(cfgPath("Office"), changed, false, "new"); }},
+    {"a new description", [] { return rewriteProfile("Office", "Office", QString(1 << 17, 'n')); }},
+    {"a new name", [] { return rewriteProfile("Office", "Annex", QString(1 << 17, 'n')); }},
+    {"the panel's settings", [] { return updateSetting("Key", QString(1 << 17, 'n')); }},
+};
+
+/// Runs it in a process of its own, and kills that as it enters or leaves system call `last`.
+/// \return whether it ended before
+bool runUntil(int last, bool (*save)())
 {
-    const QByteArray before = "A=" + QByteArray(1 << 20, 'x') + '\n';
-    QVERIFY(setFileText(settingsPath(), before));
-    // A limit to the size of files fails a write as a full disk does, for root too.
-    rlimit usual{};
-    getrlimit(RLIMIT_FSIZE, &usual);
-    const rlimit small{1 << 16, usual.rlim_max};
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    setrlimit(RLIMIT_FSIZE, &small);
-    const bool written = updateSetting("FKP_server", "new");
-    setrlimit(RLIMIT_FSIZE, &usual);
-    std::signal(SIGXFSZ, handler);
-    QVERIFY(!written);
-    QCOMPARE(fileText(settingsPath()), before);
-    QVERIFY(!QFile::exists(settingsPath() + "_tmp"));
+    const pid_t child = fork();
+    if (child == 0) {
+        ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+        raise(SIGSTOP);
+        _exit(save() ? 0 : 1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    for (int calls = 0; calls < last && WIFSTOPPED(status);) {
+        const int signal = WSTOPSIG(status);
+        const bool isCall = signal == SIGTRAP || signal == SIGSTOP;
+        calls += isCall ? 1 : 0;
+        ptrace(PTRACE_SYSCALL, child, nullptr, isCall ? 0 : signal);
+        waitpid(child, &status, 0);
+    }
+    if (!WIFSTOPPED(status))
+        return true;
+    kill(child, SIGKILL);
+    waitpid(child, &status, 0);
+    return false;
+}
+
+void addWaysToSave()
+{
+    QTest::addColumn<int>("way");
+    for (int way = 0; way < int(std::size(waysToSave)); ++way)
+        addRow(waysToSave[way].first, way);
+}
+
+} // namespace
+
+void TestSettingsFile::laySettings()
+{
+    directory = std::make_unique<QTemporaryDir>();
+    userDir = directory->path() + '/';
+    QVERIFY(setFileText(cfgPath("Office"), textBefore) && setFileText(settingsPath(), textBefore));
+}
+
+/// What is saved by any name, but for the text from before; null if that isn't there either.
+QByteArray TestSettingsFile::savedText()
+{
+    for (const QString &path : {cfgPath("Annex"), cfgPath("Office"), settingsPath()}) {
+        const QByteArray text = fileText(path);
+        if (text.isNull() && path != cfgPath("Annex") && !QFile::exists(cfgPath("Annex")))
+            return QByteArray();
+        if (!text.isNull() && text != textBefore)
+            return text;
+    }
+    return textBefore;
+}
+
+void TestSettingsFile::wholeAtEachKill_data()
+{
+    addWaysToSave();
+}
+
+void TestSettingsFile::wholeAtEachKill()
+{
+    QFETCH(int, way);
+    laySettings();
+    QVERIFY(runUntil(INT_MAX, waysToSave[way].second));
+    const QByteArray textAfter = savedText();
+    QVERIFY(textAfter.size() > 1 << 17);
+    int kills = 0;
+    for (bool ended = false; !ended; ++kills) {
+        laySettings();
+        ended = runUntil(kills + 1, waysToSave[way].second);
+        const QByteArray text = savedText();
+        QVERIFY2(text == textBefore || text == textAfter, qPrintable(QString::number(kills)));
+        QVERIFY(!ended || text == textAfter);
+    }
+    QVERIFY(kills > 20);
+}
+
+void TestSettingsFile::wholeOnFullDisk_data()
+{
+    addWaysToSave();
+}
+
+void TestSettingsFile::wholeOnFullDisk()
+{
+    QFETCH(int, way);
+    // In a folder that takes no further file too.
+    for (const bool closedFolder : {false, true}) {
+        laySettings();
+        const QString folder = way == 4 ? userDirectory() : userDir;
+        const QStringList files = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden);
+        chmod(QFile::encodeName(folder).constData(), closedFolder ? 0500 : 0700);
+        // A limit to the size of files fails a write as a full disk does, for root too.
+        rlimit usual{};
+        getrlimit(RLIMIT_FSIZE, &usual);
+        const rlimit small{1 << 16, usual.rlim_max};
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &small);
+        const bool written = waysToSave[way].second();
+        setrlimit(RLIMIT_FSIZE, &usual);
+        std::signal(SIGXFSZ, handler);
+        chmod(QFile::encodeName(folder).constData(), 0700);
+        QVERIFY(!written);
+        QCOMPARE(savedText(), textBefore);
+        QCOMPARE(QDir(folder).entryList(QDir::AllEntries | QDir::Hidden), files);
+    }
 }
 
 static const FunctionTests::Entry<TestSettingsFile> entry;
