@@ -33,6 +33,7 @@ void TestWidgets::groupChangesBeforeItTells()
     const QStringList pictures = {":/icons/duplex-off", ":/icons/duplex-long"};
     group.addButton("Off", pictures[0]);
     group.addButton("On", pictures[1]);
+    const qint64 pictureOfOff = group.buttonAt(0)->icon().cacheKey();
     const auto shown = [&] {
         QString text = group.findChild<QLabel *>()->text();
         for (int i = 0; i < 2; ++i) {
@@ -54,7 +55,8 @@ void TestWidgets::groupChangesBeforeItTells()
     QCOMPARE(shown(), QString("Duplex: OffS."));
     group.setButton(1);
     QCOMPARE(shown(), QString("Duplex: On.S"));
-    group.setButton(2); // none there
+    QCOMPARE(group.buttonAt(0)->icon().cacheKey(), pictureOfOff); // and not read anew
+    group.setButton(2);                                           // none there
     group.setButton(nullptr);
     QCOMPARE(group.currentText(), QString("Off"));
     QCOMPARE(events.size(), 2);

@@ -1,14 +1,23 @@
 #include "widgets/bixbuttongroup.h"
 
 #include "widgets/constraintmark.h"
+#include "widgets/icons.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 
 #include <algorithm>
+
+namespace {
+
+QIcon selectedIcon(const QString &iconPath)
+{
+    return Icons::icon(iconPath + QStringLiteral("-selected"));
+}
+
+} // namespace
 
 BixButtonGroup::BixButtonGroup(QWidget *parent, const QString &title)
     : QFrame(parent)
@@ -44,7 +53,8 @@ void BixButtonGroup::addButton(const QString &name, const QString &iconPath,
     auto *button = new QPushButton(this);
     button->setAccessibleName(name);
     button->setToolTip(name);
-    button->setIcon(QIcon(iconPath));
+    button->setIcon(Icons::icon(iconPath));
+    selectedIcon(iconPath); // so that no click has to read it
     button->setIconSize(QSize(50, 50));
     button->setCheckable(true);
     button->setAutoDefault(false); // Return elsewhere in the window is no click here
@@ -74,13 +84,13 @@ void BixButtonGroup::clearButtons()
 void BixButtonGroup::setButtonByValue(const QString &text)
 {
     const auto select = [this](int i) {
-        buttons[i]->setIcon(QIcon(imagePaths[i] + QStringLiteral("-selected")));
+        buttons[i]->setIcon(selectedIcon(imagePaths[i]));
         buttons[i]->setChecked(true);
     };
     bool found = false;
     for (int i = 0; i < buttons.size(); ++i) {
         if (buttons[i]->accessibleName() != text) {
-            buttons[i]->setIcon(QIcon(imagePaths[i]));
+            buttons[i]->setIcon(Icons::icon(imagePaths[i]));
         } else {
             select(i);
             found = true;

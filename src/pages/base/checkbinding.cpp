@@ -8,6 +8,7 @@
 #include "pages/base/tab.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/constraintmark.h"
+#include "widgets/icons.h"
 
 #include <QCheckBox>
 #include <QRadioButton>
@@ -151,7 +152,7 @@ QString CheckBinding::label(const QWidget *widget) const
 
 void CheckBinding::mark(QWidget *widget) const
 {
-    static_cast<QCheckBox *>(widget)->setIcon(QIcon(QLatin1String(ConstraintMark::icon)));
+    static_cast<QCheckBox *>(widget)->setIcon(Icons::icon(QLatin1String(ConstraintMark::icon)));
 }
 
 void CheckBinding::clearMark(QWidget *widget) const

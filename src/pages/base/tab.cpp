@@ -11,6 +11,7 @@
 #include "widgets/bixbuttongroup.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
+#include "widgets/icons.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -29,6 +30,7 @@ Tab::Tab(PanelDialog *dialog, const PageHead &head)
         "ComboBoxEx{ margin-bottom: 8px }BixButtonGroup{ margin-bottom: 8px }QCheckBox{ "
         "margin-bottom: 8px }BixCheckBoxButton{ margin-bottom: 8px }"));
     setContentsMargins(10, 10, 10, 10);
+    Tab::tabConstraintIcon(); // so that no click has to read it
 }
 
 QString Tab::tabName()
@@ -48,12 +50,12 @@ void Tab::setTabName()
 
 QIcon Tab::tabIcon()
 {
-    return QIcon(QLatin1String(head.icon));
+    return Icons::icon(QLatin1String(head.icon));
 }
 
 QIcon Tab::tabConstraintIcon()
 {
-    return QIcon(QLatin1String(head.icon) + QStringLiteral("-constraint"));
+    return Icons::icon(QLatin1String(head.icon) + QStringLiteral("-constraint"));
 }
 
 bool Tab::isAvailable()
