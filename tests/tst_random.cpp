@@ -28,7 +28,7 @@
 namespace {
 
 constexpr int clicksPerPrinter = 15;
-/// A store lives as long as the window that showed it.
+/// So that windows are made and go in between.
 constexpr int printersPerWindow = 50;
 /// One pass and ten repeats.
 constexpr int mostPasses = 1 + 10;

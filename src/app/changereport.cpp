@@ -64,6 +64,10 @@ void ChangeReport::startOver()
 {
     startingOver = currentStore;
     watch.restart(currentStore);
+    // What they point into goes with the next printer.
+    lastCause = Cause();
+    lastMoves.clear();
+    offered.clear();
     if (!currentStore) {
         tabs->clearDots();
         notice->forget();

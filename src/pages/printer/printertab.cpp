@@ -264,10 +264,11 @@ void PrinterTab::changePrinter(int row, int, int prev_row, int)
     currentStore = nullptr;
     if (queueNames().contains(name)) {
         // Without a PPD that can be read there is no store, and the pages show nothing.
-        if (std::unique_ptr<OptionStore> store = QueuePpd(name).makeStore()) {
-            store->setPrinterName(name);
-            currentStore = store.get();
-            stores.push_back(std::move(store));
+        if (std::unique_ptr<OptionStore> made = QueuePpd(name).makeStore()) {
+            made->setPrinterName(name);
+            currentStore = made.get();
+            previousStore = std::move(store);
+            store = std::move(made);
             // Not only after the click: until then its first publication may take a while.
             printerTable->selectionModel()->select(printerTable->model()->index(row, NameColumn),
                                                    QItemSelectionModel::ClearAndSelect |

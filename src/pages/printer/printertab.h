@@ -4,7 +4,6 @@
 #include "pages/base/tab.h"
 
 #include <memory>
-#include <vector>
 
 class OptionStore;
 class PrinterTable;
@@ -17,9 +16,9 @@ enum class PrintSystem;
 /// The page "Printer": the queues of the maker's printers in a table, and the selected one's
 /// installed options.
 ///
-/// Selecting a row makes a new OptionStore the current one. The page keeps every store that it has
-/// made, so that nothing which still points into an older one dangles. A change of an installed
-/// option is no setting of the user: the page only reports it.
+/// Selecting a row makes a new OptionStore the current one. The page keeps the one before as well:
+/// until the click is over, the report of what was moved still points into it. A change of an
+/// installed option is no setting of the user: the page only reports it.
 ///
 /// The status of the queues comes in while the page shows; until then a row keeps its last one.
 class PrinterTab : public Tab
@@ -81,6 +80,7 @@ private:
     QHash<QString, QString> installedValues; ///< as last loaded or written
     bool installedChanged = false;
     PrinterStatusReader *statusReader;
-    QHash<QString, QString> statuses; ///< by queue, as they were told last
-    std::vector<std::unique_ptr<OptionStore>> stores;
+    QHash<QString, QString> statuses;   ///< by queue, as they were told last
+    std::unique_ptr<OptionStore> store; ///< of the printer that was selected last
+    std::unique_ptr<OptionStore> previousStore;
 };
