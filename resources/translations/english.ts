@@ -75,77 +75,6 @@
     </message>
 </context>
 <context>
-    <name>adjustmentDialog</name>
-    <message>
-        <source>Master</source>
-        <translation>Master</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Red</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Yellow</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Green</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Cyan</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Blue</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturation</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Lightness</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrast</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Custom</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL(hue, saturation and lightness)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Color balance</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Hue Adjustment</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Color levels</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Adjustment Settings</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modify</translation>
-    </message>
-</context>
-<context>
     <name>BixDialog</name>
     <message>
         <source>Brixola Press Desk</source>
@@ -320,77 +249,6 @@ Reloading list now.</translation>
     </message>
 </context>
 <context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Off</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Offset jobs</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Rotate copies</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>On</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Tri-Fold</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Bi-Fold</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Staple:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Punch</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Print side</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Direction of fold</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Number of sheets</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Staple location:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Staple method</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Punch Method:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Finishing</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Separation</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Hole punch</translation>
-    </message>
-</context>
-<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -465,6 +323,77 @@ Credentials and policies will be checked again during printing.
     <message>
         <source>You do not have permission to print.</source>
         <translation>You do not have permission to print.</translation>
+    </message>
+</context>
+<context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Offset jobs</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Rotate copies</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Tri-Fold</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Bi-Fold</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Staple:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Punch</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Print side</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Direction of fold</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Number of sheets</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Staple location:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Staple method</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Punch Method:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finishing</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Separation</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Hole punch</translation>
     </message>
 </context>
 <context>
@@ -781,25 +710,6 @@ For example: %1</translation>
     <message>
         <source>Legal Notices</source>
         <translation>Legal Notices</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Custom</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Brightness</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrast</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Adjustment Settings</translation>
     </message>
 </context>
 <context>
@@ -1680,6 +1590,96 @@ For example: %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>There is no such text of your own.</translation>
+    </message>
+</context>
+<context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Master</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Yellow</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Lightness</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL(hue, saturation and lightness)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Color balance</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Hue Adjustment</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Color levels</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Adjustment Settings</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modify</translation>
+    </message>
+</context>
+<context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Adjustment Settings</translation>
     </message>
 </context>
 </TS>

@@ -75,77 +75,6 @@
     </message>
 </context>
 <context>
-    <name>adjustmentDialog</name>
-    <message>
-        <source>Master</source>
-        <translation>Général</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Rouge</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Jaune</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Vert</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Cyan</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Bleu</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturation</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Luminosité</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personnalisé</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>TSL (teinte, saturation et luminosité)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Balance des couleurs</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Réglage de la teinte</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Niveaux de couleur</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Réglages</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modifier</translation>
-    </message>
-</context>
-<context>
     <name>BixDialog</name>
     <message>
         <source>Brixola Press Desk</source>
@@ -320,77 +249,6 @@ La liste va être rechargée.</translation>
     </message>
 </context>
 <context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Désactivé</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Décaler les travaux</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Pivoter les copies</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Activé</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Pli en trois</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Pli en deux</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Agrafage:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Perforation</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Côté imprimé</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Sens du pli</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Nombre de feuilles</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Position d&apos;agrafage:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Type d&apos;agrafage</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Type de perforation:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Finition</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Séparation</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Perforation</translation>
-    </message>
-</context>
-<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -465,6 +323,77 @@ Les informations de connexion et les règles seront de nouveau vérifiées lors 
     <message>
         <source>You do not have permission to print.</source>
         <translation>Vous n&apos;êtes pas autorisé à imprimer.</translation>
+    </message>
+</context>
+<context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Décaler les travaux</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Pivoter les copies</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Pli en trois</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Pli en deux</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Agrafage:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforation</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Côté imprimé</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Sens du pli</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Nombre de feuilles</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Position d&apos;agrafage:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Type d&apos;agrafage</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Type de perforation:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finition</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Séparation</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforation</translation>
     </message>
 </context>
 <context>
@@ -781,25 +710,6 @@ Par exemple : %1</translation>
     <message>
         <source>Legal Notices</source>
         <translation>Mentions légales</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Personnalisé</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Luminosité</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Réglages</translation>
     </message>
 </context>
 <context>
@@ -1680,6 +1590,96 @@ Par exemple : %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>Ce texte n&apos;est pas un des vôtres.</translation>
+    </message>
+</context>
+<context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>TSL (teinte, saturation et luminosité)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Balance des couleurs</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Réglage de la teinte</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Niveaux de couleur</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modifier</translation>
+    </message>
+</context>
+<context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Réglages</translation>
     </message>
 </context>
 </TS>

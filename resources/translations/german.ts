@@ -75,77 +75,6 @@
     </message>
 </context>
 <context>
-    <name>adjustmentDialog</name>
-    <message>
-        <source>Master</source>
-        <translation>Gesamt</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Rot</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Gelb</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Grün</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Cyan</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Blau</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Sättigung</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Helligkeit</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Kontrast</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Benutzerdefiniert</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL (Farbton, Sättigung und Helligkeit)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Farbbalance</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Farbtonanpassung</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Farbanteile</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Anpassung</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Ändern</translation>
-    </message>
-</context>
-<context>
     <name>BixDialog</name>
     <message>
         <source>Brixola Press Desk</source>
@@ -320,77 +249,6 @@ Die Liste wird neu geladen.</translation>
     </message>
 </context>
 <context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Aus</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Aufträge versetzen</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Kopien drehen</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Ein</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Dreifachfalz</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Einfachfalz</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Heften:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Lochen</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Druckseite</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Falzrichtung</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Anzahl der Blätter</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Heftposition:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Heftart</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Lochungsart:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Finishing</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Trennung</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Lochen</translation>
-    </message>
-</context>
-<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -465,6 +323,77 @@ Anmeldedaten und Richtlinien werden beim Drucken erneut geprüft.
     <message>
         <source>You do not have permission to print.</source>
         <translation>Sie sind nicht zum Drucken berechtigt.</translation>
+    </message>
+</context>
+<context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Aufträge versetzen</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Kopien drehen</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Dreifachfalz</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Einfachfalz</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Heften:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Lochen</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Druckseite</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Falzrichtung</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Anzahl der Blätter</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Heftposition:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Heftart</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Lochungsart:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finishing</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Trennung</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Lochen</translation>
     </message>
 </context>
 <context>
@@ -781,25 +710,6 @@ Zum Beispiel: %1</translation>
     <message>
         <source>Legal Notices</source>
         <translation>Rechtliche Hinweise</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Benutzerdefiniert</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Helligkeit</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Kontrast</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Anpassung</translation>
     </message>
 </context>
 <context>
@@ -1680,6 +1590,96 @@ Zum Beispiel: %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>Diesen Text haben Sie nicht angelegt.</translation>
+    </message>
+</context>
+<context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Gesamt</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL (Farbton, Sättigung und Helligkeit)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Farbbalance</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Farbtonanpassung</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Farbanteile</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Anpassung</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Ändern</translation>
+    </message>
+</context>
+<context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Anpassung</translation>
     </message>
 </context>
 </TS>

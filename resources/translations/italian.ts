@@ -75,77 +75,6 @@
     </message>
 </context>
 <context>
-    <name>adjustmentDialog</name>
-    <message>
-        <source>Master</source>
-        <translation>Generale</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Rosso</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Giallo</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Verde</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Ciano</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Blu</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturazione</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Luminosità</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrasto</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizzato</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL (tonalità, saturazione e luminosità)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Bilanciamento colore</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Regolazione tonalità</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Livelli di colore</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Impostazioni di regolazione</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modifica</translation>
-    </message>
-</context>
-<context>
     <name>BixDialog</name>
     <message>
         <source>Brixola Press Desk</source>
@@ -320,77 +249,6 @@ L&apos;elenco viene ricaricato.</translation>
     </message>
 </context>
 <context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Disattivato</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Sfalsa lavori</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Ruota copie</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Attivato</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Piega in tre</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Piega in due</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Pinzatura:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Perforazione</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Lato di stampa</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Direzione di piega</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Numero di fogli</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Posizione di pinzatura:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Tipo di pinzatura</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Tipo di perforazione:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Finitura</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Separazione</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Perforazione</translation>
-    </message>
-</context>
-<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -465,6 +323,77 @@ Le credenziali e i criteri verranno verificati di nuovo durante la stampa.
     <message>
         <source>You do not have permission to print.</source>
         <translation>Non si dispone dell&apos;autorizzazione per stampare.</translation>
+    </message>
+</context>
+<context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Sfalsa lavori</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Ruota copie</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Attivato</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Piega in tre</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Piega in due</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Pinzatura:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforazione</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Lato di stampa</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Direzione di piega</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Numero di fogli</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Posizione di pinzatura:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Tipo di pinzatura</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Tipo di perforazione:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finitura</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Separazione</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforazione</translation>
     </message>
 </context>
 <context>
@@ -781,25 +710,6 @@ Ad esempio: %1</translation>
     <message>
         <source>Legal Notices</source>
         <translation>Note legali</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizzato</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Luminosità</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrasto</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Impostazioni di regolazione</translation>
     </message>
 </context>
 <context>
@@ -1680,6 +1590,96 @@ Ad esempio: %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>Questo testo non è tra i propri.</translation>
+    </message>
+</context>
+<context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rosso</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Giallo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Ciano</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blu</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturazione</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosità</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrasto</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizzato</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL (tonalità, saturazione e luminosità)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Bilanciamento colore</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Regolazione tonalità</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Livelli di colore</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Impostazioni di regolazione</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modifica</translation>
+    </message>
+</context>
+<context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizzato</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosità</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrasto</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Impostazioni di regolazione</translation>
     </message>
 </context>
 </TS>

@@ -75,77 +75,6 @@
     </message>
 </context>
 <context>
-    <name>adjustmentDialog</name>
-    <message>
-        <source>Master</source>
-        <translation>Geral</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Vermelho</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Amarelo</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Verde</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Ciano</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Azul</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturação</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Luminosidade</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizado</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL (matiz, saturação e luminosidade)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Balanço de cores</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Ajuste de matiz</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Níveis de cor</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Definições de ajuste</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modificar</translation>
-    </message>
-</context>
-<context>
     <name>BixDialog</name>
     <message>
         <source>Brixola Press Desk</source>
@@ -320,77 +249,6 @@ A lista vai ser recarregada.</translation>
     </message>
 </context>
 <context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Desativado</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Deslocar trabalhos</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Girar cópias</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Ativado</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Dobra em três</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Dobra ao meio</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Agrafamento:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Perfuração</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Lado de impressão</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Direção da dobra</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Número de folhas</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Posição do agrafo:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Tipo de agrafamento</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Tipo de perfuração:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Acabamento</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Separação</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Perfuração</translation>
-    </message>
-</context>
-<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -465,6 +323,77 @@ As credenciais e as políticas serão verificadas novamente durante a impressão
     <message>
         <source>You do not have permission to print.</source>
         <translation>Não tem permissão para imprimir.</translation>
+    </message>
+</context>
+<context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Desativado</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Deslocar trabalhos</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Girar cópias</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ativado</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Dobra em três</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Dobra ao meio</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Agrafamento:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perfuração</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Lado de impressão</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Direção da dobra</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Número de folhas</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Posição do agrafo:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Tipo de agrafamento</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Tipo de perfuração:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Acabamento</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Separação</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perfuração</translation>
     </message>
 </context>
 <context>
@@ -781,25 +710,6 @@ Por exemplo: %1</translation>
     <message>
         <source>Legal Notices</source>
         <translation>Avisos legais</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizado</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Brilho</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Definições de ajuste</translation>
     </message>
 </context>
 <context>
@@ -1680,6 +1590,96 @@ Por exemplo: %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>Este texto não é seu.</translation>
+    </message>
+</context>
+<context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Vermelho</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarelo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Ciano</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturação</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosidade</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL (matiz, saturação e luminosidade)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Balanço de cores</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Ajuste de matiz</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Níveis de cor</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Definições de ajuste</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modificar</translation>
+    </message>
+</context>
+<context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brilho</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Definições de ajuste</translation>
     </message>
 </context>
 </TS>

@@ -75,77 +75,6 @@
     </message>
 </context>
 <context>
-    <name>adjustmentDialog</name>
-    <message>
-        <source>Master</source>
-        <translation>General</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Rojo</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Amarillo</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Verde</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Cian</translation>
-    </message>
-    <message>
-        <source>Blue</source>
-        <translation>Azul</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturación</translation>
-    </message>
-    <message>
-        <source>Lightness</source>
-        <translation>Luminosidad</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizado</translation>
-    </message>
-    <message>
-        <source>HSL(hue, saturation and lightness)</source>
-        <translation>HSL (tono, saturación y luminosidad)</translation>
-    </message>
-    <message>
-        <source>Color balance</source>
-        <translation>Balance de color</translation>
-    </message>
-    <message>
-        <source>Hue Adjustment</source>
-        <translation>Ajuste de tono</translation>
-    </message>
-    <message>
-        <source>Color levels</source>
-        <translation>Niveles de color</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Parámetros de ajuste</translation>
-    </message>
-    <message>
-        <source>Modify</source>
-        <translation>Modificar</translation>
-    </message>
-</context>
-<context>
     <name>BixDialog</name>
     <message>
         <source>Brixola Press Desk</source>
@@ -320,77 +249,6 @@ Se volverá a cargar la lista.</translation>
     </message>
 </context>
 <context>
-    <name>FinishingTab</name>
-    <message>
-        <source>Off</source>
-        <translation>Desactivado</translation>
-    </message>
-    <message>
-        <source>Offset jobs</source>
-        <translation>Desplazar trabajos</translation>
-    </message>
-    <message>
-        <source>Rotate copies</source>
-        <translation>Girar copias</translation>
-    </message>
-    <message>
-        <source>On</source>
-        <translation>Activado</translation>
-    </message>
-    <message>
-        <source>Tri-Fold</source>
-        <translation>Plegado en tres</translation>
-    </message>
-    <message>
-        <source>Bi-Fold</source>
-        <translation>Plegado en dos</translation>
-    </message>
-    <message>
-        <source>Staple:</source>
-        <translation>Grapado:</translation>
-    </message>
-    <message>
-        <source>Punch</source>
-        <translation>Perforación</translation>
-    </message>
-    <message>
-        <source>Print side</source>
-        <translation>Cara de impresión</translation>
-    </message>
-    <message>
-        <source>Direction of fold</source>
-        <translation>Dirección del pliegue</translation>
-    </message>
-    <message>
-        <source>Number of sheets</source>
-        <translation>Número de hojas</translation>
-    </message>
-    <message>
-        <source>Staple location:</source>
-        <translation>Posición de la grapa:</translation>
-    </message>
-    <message>
-        <source>Staple method</source>
-        <translation>Tipo de grapado</translation>
-    </message>
-    <message>
-        <source>Punch Method:</source>
-        <translation>Tipo de perforación:</translation>
-    </message>
-    <message>
-        <source>Finishing</source>
-        <translation>Acabado</translation>
-    </message>
-    <message>
-        <source>Separation</source>
-        <translation>Separación</translation>
-    </message>
-    <message>
-        <source>Hole punch</source>
-        <translation>Perforación</translation>
-    </message>
-</context>
-<context>
     <name>FKPTab</name>
     <message>
         <source>Off</source>
@@ -465,6 +323,77 @@ Las credenciales y las directivas se volverán a comprobar durante la impresión
     <message>
         <source>You do not have permission to print.</source>
         <translation>No tiene permiso para imprimir.</translation>
+    </message>
+</context>
+<context>
+    <name>FinishingTab</name>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Desplazar trabajos</translation>
+    </message>
+    <message>
+        <source>Rotate copies</source>
+        <translation>Girar copias</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Tri-Fold</source>
+        <translation>Plegado en tres</translation>
+    </message>
+    <message>
+        <source>Bi-Fold</source>
+        <translation>Plegado en dos</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Grapado:</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforación</translation>
+    </message>
+    <message>
+        <source>Print side</source>
+        <translation>Cara de impresión</translation>
+    </message>
+    <message>
+        <source>Direction of fold</source>
+        <translation>Dirección del pliegue</translation>
+    </message>
+    <message>
+        <source>Number of sheets</source>
+        <translation>Número de hojas</translation>
+    </message>
+    <message>
+        <source>Staple location:</source>
+        <translation>Posición de la grapa:</translation>
+    </message>
+    <message>
+        <source>Staple method</source>
+        <translation>Tipo de grapado</translation>
+    </message>
+    <message>
+        <source>Punch Method:</source>
+        <translation>Tipo de perforación:</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Acabado</translation>
+    </message>
+    <message>
+        <source>Separation</source>
+        <translation>Separación</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforación</translation>
     </message>
 </context>
 <context>
@@ -781,25 +710,6 @@ Por ejemplo: %1</translation>
     <message>
         <source>Legal Notices</source>
         <translation>Avisos legales</translation>
-    </message>
-</context>
-<context>
-    <name>monoDialog</name>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizado</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Brillo</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Adjustment Settings</source>
-        <translation>Parámetros de ajuste</translation>
     </message>
 </context>
 <context>
@@ -1680,6 +1590,96 @@ Por ejemplo: %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>Este texto no es suyo.</translation>
+    </message>
+</context>
+<context>
+    <name>adjustmentDialog</name>
+    <message>
+        <source>Master</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarillo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cian</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosidad</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>HSL(hue, saturation and lightness)</source>
+        <translation>HSL (tono, saturación y luminosidad)</translation>
+    </message>
+    <message>
+        <source>Color balance</source>
+        <translation>Balance de color</translation>
+    </message>
+    <message>
+        <source>Hue Adjustment</source>
+        <translation>Ajuste de tono</translation>
+    </message>
+    <message>
+        <source>Color levels</source>
+        <translation>Niveles de color</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Parámetros de ajuste</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modificar</translation>
+    </message>
+</context>
+<context>
+    <name>monoDialog</name>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Adjustment Settings</source>
+        <translation>Parámetros de ajuste</translation>
     </message>
 </context>
 </TS>
