@@ -25,7 +25,8 @@ void SheetDrawing::paintSets(const QPointF &center)
     const int together = bySet ? 3 : 2;
     constexpr double gap = 2;
     constexpr double wideGap = 7;
-    const double width = 6 * (setPage.width() + gap) - gap + (6 / together - 1) * (wideGap - gap);
+    const int sets = 6 / together;
+    const double width = 6 * (setPage.width() + gap) - gap + (sets - 1) * (wideGap - gap);
     QPointF corner(std::round(center.x() - width / 2),
                    std::round(center.y() - setPage.height() / 2));
     QPainterPath area;
@@ -138,7 +139,9 @@ void SheetDrawing::paintCover()
     if (!sketch.coverPrinted || gone)
         return;
     QPainterPath lines;
-    for (double y = h * 0.2; y < h * 0.8; y += 8) {
+    const int count = int(h * 0.6 / 8);
+    for (int i = 0; i <= count; ++i) {
+        const double y = h * 0.2 + 8 * i;
         lines.moveTo(hinge + out * 0.2, y + up * 0.2);
         lines.lineTo(hinge + out * 0.8, y + up * 0.8);
     }
