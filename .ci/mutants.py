@@ -55,6 +55,7 @@ WATCHERS = {
     "publishingrows.h": ["case_publishing", "case_languages"],
     "publishingtab.cpp": ["case_publishing"],
     "publishingtab.h": ["case_publishing"],
+    "sheetcontent.cpp": ["case_sketch"],
     "sheetsketch.cpp": ["tst_functions TestSheetSketch", "tst_functions TestSheetSketchBefore",
                         "tst_functions TestSheetKeywords"],
     "sheetwords.cpp": ["case_sketch"],
