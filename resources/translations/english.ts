@@ -1591,6 +1591,18 @@ For example: %1</translation>
         <source>There is no such text of your own.</source>
         <translation>There is no such text of your own.</translation>
     </message>
+    <message>
+        <source>Watermark</source>
+        <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture. A hyphen may break the line.</extracomment>
+        <translation>Watermark</translation>
+    </message>
+    <message>
+        <source>Super watermark</source>
+        <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture. A hyphen may break the line.</extracomment>
+        <translation>Super watermark</translation>
+    </message>
 </context>
 <context>
     <name>adjustmentDialog</name>

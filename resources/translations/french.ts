@@ -1591,6 +1591,18 @@ Par exemple : %1</translation>
         <source>There is no such text of your own.</source>
         <translation>Ce texte n&apos;est pas un des vôtres.</translation>
     </message>
+    <message>
+        <source>Watermark</source>
+        <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture. A hyphen may break the line.</extracomment>
+        <translation>Filigrane</translation>
+    </message>
+    <message>
+        <source>Super watermark</source>
+        <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture. A hyphen may break the line.</extracomment>
+        <translation>Super filigrane</translation>
+    </message>
 </context>
 <context>
     <name>adjustmentDialog</name>

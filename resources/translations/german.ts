@@ -625,7 +625,7 @@ Zum Beispiel: %1</translation>
     </message>
     <message>
         <source>Overwrite job name:</source>
-        <translation>Auftragsnamen überschreiben:</translation>
+        <translation>Namen überschreiben:</translation>
     </message>
     <message>
         <source>Application defined</source>
@@ -1590,6 +1590,18 @@ Zum Beispiel: %1</translation>
     <message>
         <source>There is no such text of your own.</source>
         <translation>Diesen Text haben Sie nicht angelegt.</translation>
+    </message>
+    <message>
+        <source>Watermark</source>
+        <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture. A hyphen may break the line.</extracomment>
+        <translation>Wasser-zeichen</translation>
+    </message>
+    <message>
+        <source>Super watermark</source>
+        <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture. A hyphen may break the line.</extracomment>
+        <translation>Super-Wasser-zeichen</translation>
     </message>
 </context>
 <context>

@@ -1591,6 +1591,18 @@ Ad esempio: %1</translation>
         <source>There is no such text of your own.</source>
         <translation>Questo testo non è tra i propri.</translation>
     </message>
+    <message>
+        <source>Watermark</source>
+        <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture. A hyphen may break the line.</extracomment>
+        <translation>Filigrana</translation>
+    </message>
+    <message>
+        <source>Super watermark</source>
+        <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture. A hyphen may break the line.</extracomment>
+        <translation>Super filigrana</translation>
+    </message>
 </context>
 <context>
     <name>adjustmentDialog</name>

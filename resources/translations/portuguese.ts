@@ -1591,6 +1591,18 @@ Por exemplo: %1</translation>
         <source>There is no such text of your own.</source>
         <translation>Este texto não é seu.</translation>
     </message>
+    <message>
+        <source>Watermark</source>
+        <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture. A hyphen may break the line.</extracomment>
+        <translation>Marca de água</translation>
+    </message>
+    <message>
+        <source>Super watermark</source>
+        <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture. A hyphen may break the line.</extracomment>
+        <translation>Super marca de água</translation>
+    </message>
 </context>
 <context>
     <name>adjustmentDialog</name>

@@ -1591,6 +1591,18 @@ Por ejemplo: %1</translation>
         <source>There is no such text of your own.</source>
         <translation>Este texto no es suyo.</translation>
     </message>
+    <message>
+        <source>Watermark</source>
+        <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture. A hyphen may break the line.</extracomment>
+        <translation>Marca de agua</translation>
+    </message>
+    <message>
+        <source>Super watermark</source>
+        <comment>caption</comment>
+        <extracomment>Short, since it stands below a small picture. A hyphen may break the line.</extracomment>
+        <translation>Super marca de agua</translation>
+    </message>
 </context>
 <context>
     <name>adjustmentDialog</name>

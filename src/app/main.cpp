@@ -1,13 +1,12 @@
 #include "app/bixdialog.h"
 #include "app/language.h"
 #include "app/telemetryoption.h"
+#include "widgets/panellook.h"
 #include "widgets/spoken.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QLocale>
-#include <QStyle>
-#include <QStyleFactory>
 #include <QTranslator>
 
 int main(int argc, char **argv)
@@ -18,9 +17,7 @@ int main(int argc, char **argv)
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    // The window brings its own light background, so its texts can't follow a dark desktop.
-    QApplication::setPalette(QApplication::style()->standardPalette());
+    PanelLook::use();
     QApplication::setWindowIcon(QIcon(QPixmap(QStringLiteral(":/icons/appicon"))));
 
     QTranslator translator;

@@ -59,6 +59,7 @@ TelemetryDialog::TelemetryDialog(QWidget *parent)
     auto *promiseLabel =
         new QLabel(QStringLiteral("<b>") + promise.toHtmlEscaped() + QStringLiteral("</b>"), this);
     promiseLabel->setTextFormat(Qt::RichText);
+    promiseLabel->setWordWrap(true);
     auto *policyLabel = new QLabel(
         tr("Regarding data collection, please read the PRIVACY POLICY as follows."), this);
     policyLabel->setWordWrap(true);

@@ -25,9 +25,6 @@ BixCheckBoxButton::BixCheckBoxButton(QWidget *parent, const QString &text, const
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->addWidget(button, 0, 0, 0, 0, Qt::AlignBottom);
     layout_->addWidget(checkBox, 0, 0, 0, 0, Qt::AlignBottom | Qt::AlignLeft);
-    setMinimumSize(50, 50);
-    // Above that the texts decide: a crowded page must not cut them off.
-    layout_->setSizeConstraint(QLayout::SetMinimumSize);
 
     connect(button, &QPushButton::clicked, checkBox, &QCheckBox::toggle);
     for (QAbstractButton *part :
@@ -39,6 +36,11 @@ BixCheckBoxButton::BixCheckBoxButton(QWidget *parent, const QString &text, const
         connect(part, &QAbstractButton::toggled, this, &BixCheckBoxButton::fire_signals,
                 Qt::UniqueConnection);
     }
+}
+
+QSize BixCheckBoxButton::minimumSizeHint() const
+{
+    return QFrame::minimumSizeHint().expandedTo(QSize(50, 50));
 }
 
 QString BixCheckBoxButton::label() const

@@ -20,6 +20,9 @@ class BixCheckBoxButton : public QFrame
 public:
     BixCheckBoxButton(QWidget *parent, const QString &text, const QIcon &icon);
 
+    /// Room for picture and texts: on a crowded page others become narrower first.
+    QSize minimumSizeHint() const override;
+
     /// What the check box is called: its text, or the longer name that screen readers get.
     QString label() const;
     /// What screen readers call both parts.

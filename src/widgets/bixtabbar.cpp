@@ -1,5 +1,8 @@
 #include "widgets/bixtabbar.h"
 
+#include "widgets/panellook.h"
+
+#include <QHelpEvent>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QStyleOptionTab>
@@ -19,6 +22,11 @@ QRect iconRow(const QRect &row)
     return row.adjusted(0, spare / 2, 0, spare / 2 - spare);
 }
 
+QFont textFont()
+{
+    return {QStringLiteral("Arial"), 12};
+}
+
 void drawDot(QPainter *painter, const QRect &row)
 {
     painter->setRenderHint(QPainter::Antialiasing);
@@ -34,6 +42,30 @@ void drawDot(QPainter *painter, const QRect &row)
 BixTabBar::BixTabBar(QWidget *parent)
     : QTabBar(parent)
 {
+}
+
+QRect BixTabBar::textPlace(int index) const
+{
+    return tabRect(index).adjusted(iconSize().width() + 17, 3, 0, -3);
+}
+
+QString BixTabBar::shownText(int index) const
+{
+    return QFontMetrics(textFont(), this)
+        .elidedText(tabText(index), Qt::ElideRight, textPlace(index).width());
+}
+
+bool BixTabBar::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        const int index = tabAt(help->pos());
+        if (index >= 0 && shownText(index) != tabText(index)) {
+            PanelLook::showToolTip(help->globalPos(), tabText(index), tabToolTip(index), this);
+            return true;
+        }
+    }
+    return QTabBar::event(event);
 }
 
 void BixTabBar::keyPressEvent(QKeyEvent *event)
@@ -58,18 +90,16 @@ void BixTabBar::paintEvent(QPaintEvent *)
         QStyleOptionTab option;
         initStyleOption(&option, i);
         const QIcon icon = option.icon;
-        const QString text = option.text;
         // Only in the option: a change of the tab itself would repaint for ever.
         option.icon = QIcon();
         option.text.clear();
         painter.drawControl(QStyle::CE_TabBarTabShape, option);
 
         painter.setPen(isTabEnabled(i) ? QColor(Qt::white) : QColor(0, 0, 0, 0));
-        painter.setFont(QFont(QStringLiteral("Arial"), 12));
-        const int iconWidth = iconSize().width();
-        QRect place = option.rect.adjusted(iconWidth + 17, 3, 0, -3);
-        painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, text);
-        place.setLeft(place.left() - (iconWidth + 10));
+        painter.setFont(textFont());
+        QRect place = textPlace(i);
+        painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, shownText(i));
+        place.setLeft(place.left() - (iconSize().width() + 10));
         icon.paint(&painter, iconRow(place), Qt::AlignLeft | Qt::AlignVCenter, QIcon::Active);
         if (isTabEnabled(i) && tabData(i).toBool())
             drawDot(&painter, place);

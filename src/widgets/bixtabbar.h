@@ -12,7 +12,14 @@ public:
     explicit BixTabBar(QWidget *parent = nullptr);
 
 protected:
+    /// Shows the whole of a text that ends in an ellipsis.
+    bool event(QEvent *event) override;
     /// The pages stand below each other: Up and Down go through them.
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QRect textPlace(int index) const;
+    /// The text as far as there is room for it.
+    QString shownText(int index) const;
 };

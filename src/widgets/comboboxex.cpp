@@ -1,5 +1,7 @@
 #include "widgets/comboboxex.h"
 
+#include "widgets/panellook.h"
+
 #include <QAbstractItemView>
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
@@ -11,6 +13,7 @@ namespace {
 
 // From this number on the list has a scroll bar.
 constexpr int longListCount = 11;
+constexpr int padding = 4; // pixels
 
 } // namespace
 
@@ -19,6 +22,36 @@ ComboBoxEx::ComboBoxEx(QWidget *parent)
 {
     // Without the wheel, which would take the focus before the event arrives.
     setFocusPolicy(Qt::StrongFocus);
+}
+
+void ComboBoxEx::setUsualWidth(int width)
+{
+    usualWidth = width;
+    setSizePolicy(QSizePolicy::Fixed, sizePolicy().verticalPolicy());
+    // Larger type needs the freedom to be given less on a crowded page.
+    if (PanelLook::typeFactor(font()) == 1.0)
+        setFixedWidth(width);
+    updateGeometry();
+}
+
+int ComboBoxEx::grownWidth(int textWidth) const
+{
+    const double factor = PanelLook::typeFactor(font());
+    if (usualWidth == 0) // with what Qt forgets to add for the padding of the window's style sheet
+        return factor == 1.0 ? textWidth : textWidth + padding;
+    return std::clamp(textWidth, usualWidth, int(usualWidth * factor));
+}
+
+QSize ComboBoxEx::sizeHint() const
+{
+    const QSize hint = QComboBox::sizeHint();
+    return {grownWidth(hint.width()), hint.height()};
+}
+
+QSize ComboBoxEx::minimumSizeHint() const
+{
+    const QSize hint = QComboBox::minimumSizeHint();
+    return {grownWidth(hint.width()), hint.height()};
 }
 
 void ComboBoxEx::showPopup()

@@ -11,8 +11,19 @@ class ComboBoxEx : public QComboBox
 public:
     explicit ComboBoxEx(QWidget *parent = nullptr);
 
+    /// The width in pixels in type of the ordinary size. In larger type the box grows with its
+    /// texts, as far as there is room.
+    void setUsualWidth(int width);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
     void showPopup() override;
 
 protected:
     void wheelEvent(QWheelEvent *event) override;
+
+private:
+    int grownWidth(int textWidth) const;
+
+    int usualWidth = 0; ///< 0 for that of the texts
 };

@@ -26,7 +26,7 @@ LabeledComboBox labeledComboBox(QWidget *page, const char *labelName, const char
     pair.label = named(new QLabel(labelText, page), labelName);
     pair.box = named(new ComboBoxEx(page), boxName);
     if (width > 0)
-        pair.box->setFixedWidth(width);
+        pair.box->setUsualWidth(width);
     return pair;
 }
 

@@ -45,7 +45,7 @@ QString withColon(const QString &text);
 /// Without the colon and the blanks at its end.
 QString withoutColon(const QString &text);
 
-/// `width` in pixels fixes the box; with 0 it is as wide as its longest item.
+/// `width` in pixels is the box's usual one; with 0 it is as wide as its longest item.
 LabeledComboBox labeledComboBox(QWidget *page, const char *labelName, const char *boxName,
                                 const QString &labelText, int width = 0);
 

@@ -214,13 +214,13 @@ QGridLayout *FinishingTab::createFoldGrid()
     grid->addWidget(separationGroup, 0, 0, 1, 2, Qt::AlignLeft);
     grid->addWidget(PageLayout::horizontalLine(this), 1, 0, 1, 4);
     grid->addWidget(headings[TriFold], 2, 0, 1, 2);
-    grid->addWidget(buttons[TriFold], 3, 0, 2, 1, Qt::AlignLeft);
+    grid->addWidget(buttons[TriFold], 3, 0, 2, 1);
     addList(grid, 3, PrintSide);
     addList(grid, 5, FoldDirection);
     addList(grid, 7, TriFoldSheets);
     grid->addWidget(PageLayout::horizontalLine(this), 9, 0, 1, 4);
     grid->addWidget(headings[BiFold], 10, 0, 1, 2);
-    grid->addWidget(buttons[BiFold], 11, 0, 2, 1, Qt::AlignLeft);
+    grid->addWidget(buttons[BiFold], 11, 0, 2, 1);
     addList(grid, 11, BiFoldSheets);
     grid->setColumnStretch(3, 1);
     grid->setRowStretch(15, 1);
@@ -231,12 +231,12 @@ QGridLayout *FinishingTab::createStapleGrid()
 {
     auto *grid = new QGridLayout;
     grid->addWidget(headings[Staple], 0, 0, 1, 2);
-    grid->addWidget(buttons[Staple], 1, 0, 2, 1, Qt::AlignLeft);
+    grid->addWidget(buttons[Staple], 1, 0, 2, 1);
     addList(grid, 1, StapleLocation);
     addList(grid, 3, StapleMethod);
     grid->addWidget(PageLayout::horizontalLine(this), 5, 0, 1, 3);
     grid->addWidget(headings[Punch], 6, 0, 1, 2);
-    grid->addWidget(buttons[Punch], 7, 0, 2, 1, Qt::AlignLeft);
+    grid->addWidget(buttons[Punch], 7, 0, 2, 1);
     addList(grid, 7, PunchMethod);
     grid->addWidget(PageLayout::horizontalLine(this), 9, 0, 1, 3);
     grid->addWidget(rotateGroup, 10, 0, 1, 2, Qt::AlignLeft);

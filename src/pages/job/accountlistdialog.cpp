@@ -39,7 +39,8 @@ AccountListDialog::AccountListDialog(QWidget *page)
     createTable();
     createLayout();
     createConnections();
-    setFixedSize(400, 200);
+    // In type of the ordinary size; larger type needs more.
+    setFixedSize(minimumSizeHint().expandedTo(QSize(400, 200)));
 }
 
 void AccountListDialog::createTable()

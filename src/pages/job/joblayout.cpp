@@ -23,6 +23,8 @@ namespace {
 // In pixels.
 constexpr int inputWidth = 180;
 constexpr int gap = 6;
+constexpr int columnWidth = 292;
+constexpr int markWidth = 30;
 
 } // namespace
 
@@ -107,6 +109,9 @@ QGridLayout *JobTab::createNameGrid()
 {
     QGridLayout *grid = createGrid();
     grid->addWidget(name->label, 0, 0, 1, 2);
+    // Above the middle of the e-mail's, which leaves as much at its right.
+    name->picture->setAlignment(Qt::AlignCenter);
+    name->picture->setContentsMargins(0, 0, gap, 0);
     grid->addWidget(name->picture, 1, 0, 2, 1, Qt::AlignVCenter);
     grid->addWidget(name->modeBox, 1, 1);
     grid->addWidget(name->edit, 2, 1);
@@ -122,6 +127,10 @@ QGridLayout *JobTab::createNameGrid()
     grid->addWidget(email->edit, 9, 1);
     grid->addWidget(email->error, 10, 1);
     Spoken::setLabels(email->button, {email->label});
+    // Both are rich texts, which have no ellipsis.
+    name->overwriteLabel->setWordWrap(
+        email->button->sizeHint().width() + name->overwriteLabel->sizeHint().width() > columnWidth);
+    email->label->setWordWrap(email->label->sizeHint().width() + markWidth > columnWidth);
     grid->setColumnStretch(13, 1);
     grid->setRowStretch(14, 1);
     return grid;

@@ -23,6 +23,8 @@ const QLatin1String nameKey("CustomJobName");
 const QLatin1String replaceKey("ReplaceJob");
 const QLatin1String dateKey("JobDate");
 
+constexpr int inputWidth = 200; // in pixels
+
 // Entries of the overwrite box.
 enum Overwrite
 {
@@ -47,7 +49,7 @@ JobName::JobName(QWidget *page)
     , error(makeErrorLabel(page))
 {
     edit->setValidator(new OneLineValidator(QLatin1String(JobTexts::nameOfAtMost64), edit));
-    overwriteBox->setMinimumWidth(200);
+    overwriteBox->setMinimumWidth(inputWidth);
     JobName::setTexts();
 }
 

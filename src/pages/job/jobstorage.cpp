@@ -56,7 +56,8 @@ JobStorage::JobStorage(QWidget *page)
     , passwordEdit(named(new QLineEdit(page), "lnEditBoxPassword"))
     , error(named(makeErrorLabel(page), "lblStorageErrorMessage"))
 {
-    box->setFixedWidth(180);
+    box->setUsualWidth(180);
+    box->setMinimumWidth(0); // its column is as wide where there is room
     // No validator here: what is no digit goes with the next constraint pass.
     codeEdit->setEchoMode(QLineEdit::Password);
     codeEdit->setMaxLength(longestCode);

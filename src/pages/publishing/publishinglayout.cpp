@@ -4,6 +4,7 @@
 #include "pages/publishing/publishingtab.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
+#include "widgets/panellook.h"
 #include "widgets/spoken.h"
 
 #include <QCheckBox>
@@ -15,11 +16,24 @@
 
 #include <iterator>
 
+namespace {
+
+// In pixels.
+constexpr int inputWidth = 185;
+constexpr int captionWidth = 110; // at most, for inputs of the full width beside it
+
+} // namespace
+
 void PublishingTab::createLayout()
 {
     setStyleSheet(QStringLiteral(
         "ComboBoxEx{ margin-bottom: 0px }BixButtonGroup{ margin-bottom: 0px }QCheckBox{ "
         "margin-bottom: 0px }BixCheckBoxButton{ margin-bottom: 0px; }"));
+    const bool hasRoom = PanelLook::typeFactor(font()) == 1.0 &&
+                         buttons[Interleaving]->sizeHint().width() <= captionWidth;
+    for (QWidget *input : std::initializer_list<QWidget *>{media[Cover].box, media[PageInsert].box,
+                                                           media[Interleaving].box, pagesEdit})
+        input->setMinimumWidth(hasRoom ? inputWidth : 0);
     auto *layout = new QHBoxLayout(this);
     layout->addLayout(createCoverGrid());
     layout->addWidget(PageLayout::verticalLine(this));
@@ -66,13 +80,15 @@ QGridLayout *PublishingTab::createCoverGrid()
         if (rows[i])
             grid->addWidget(rows[i], i + 1, 1);
     }
-    grid->addWidget(PageLayout::horizontalLine(this), 13, 0, 1, 3);
+    grid->addWidget(PageLayout::horizontalLine(this), 13, 0, 1, 2);
     grid->addWidget(headings[Interleaving], 14, 0, 1, 2);
-    grid->addWidget(buttons[Interleaving], 15, 0, 2, 1);
+    // As high as all that stands beside it, or it would draw two of the rows apart.
+    grid->addWidget(buttons[Interleaving], 15, 0, 3, 1);
     grid->addWidget(prints[Backing], 15, 1);
     grid->addWidget(media[Interleaving].label, 16, 1);
     grid->addWidget(media[Interleaving].box, 17, 1);
-    grid->setColumnStretch(3, 1);
+    grid->setColumnMinimumWidth(1, inputWidth);
+    grid->setColumnStretch(2, 1);
     grid->setRowStretch(22, 1);
     return grid;
 }
@@ -86,6 +102,7 @@ QGridLayout *PublishingTab::createInsertGrid()
     grid->addWidget(buttons[PageInsert], 1, 0, 2, 1);
     for (int i = 0; i < int(std::size(rows)); ++i)
         grid->addWidget(rows[i], i + 1, 1);
+    grid->setColumnMinimumWidth(1, inputWidth);
     grid->setColumnStretch(4, 1);
     grid->setRowStretch(15, 1);
     return grid;

@@ -24,12 +24,6 @@
 using PageWidgets::named;
 using namespace PublishingRows;
 
-namespace {
-
-constexpr int inputWidth = 185; // at least, in pixels
-
-} // namespace
-
 PublishingTab::PublishingTab(PanelDialog *dialog)
     : Tab(dialog, {QT_TRANSLATE_NOOP("PublishingTab", "Publishing"), ":/icons/tab-publishing",
                    PageHead::WithAnOption})
@@ -54,7 +48,6 @@ void PublishingTab::createWidgets()
         media[i] =
             PageWidgets::labeledComboBox(this, row.mediaLabelName, row.mediaBoxName, QString());
         media[i].label->setWordWrap(true); // the PPD's name of it may be long
-        media[i].box->setMinimumWidth(inputWidth);
     }
     for (int i = 0; i < SidesCount; ++i)
         sides[i] = named(new QRadioButton(this), sidesRows[i].name);
@@ -67,7 +60,6 @@ void PublishingTab::createWidgets()
     }
     captions[InsertPages]->setWordWrap(true);
     pagesEdit = named(new QLineEdit(this), "lnEditPinsPage");
-    pagesEdit->setMinimumWidth(inputWidth);
     pagesEdit->setValidator(
         new QRegExpValidator(QRegExp(QStringLiteral("\\d[\\d ,-]*")), pagesEdit));
 

@@ -4,6 +4,7 @@
 #include "model/keys.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
+#include "pages/base/buttoncaption.h"
 #include "pages/base/onelinevalidator.h"
 #include "pages/base/pagelayout.h"
 #include "pages/base/paneldialog.h"
@@ -31,13 +32,11 @@ namespace {
 constexpr int boxWidth = 185;   // in pixels
 constexpr int longestName = 32; // characters
 
-/// A switch whose text is only for assistive technology: a heading says it too, and on the picture
-/// it could not be read.
-BixCheckBoxButton *pictureButton(QWidget *parent, const char *icon, const QString &text)
+BixCheckBoxButton *pictureButton(QWidget *parent, const char *icon, const QString &caption,
+                                 const QString &name)
 {
     auto *button = new BixCheckBoxButton(parent, QString(), QIcon(QLatin1String(icon)));
-    button->setLabel(text);
-    button->setPictureToolTip(text);
+    ButtonCaption::set(button, caption, name);
     return button;
 }
 
@@ -61,8 +60,10 @@ void WatermarkTab::createWidgets()
     static_assert(std::size(featureRows) == Watermark::Repeat);
     section = named(new QFrame(this), "chkBxStamp");
     heading = named(new QLabel(withColon(tr("Watermark/Stamp")), section), "lblWatermark");
-    watermarkButton =
-        named(pictureButton(section, ":/icons/watermark", tr("Watermark")), "chkButWatermark");
+    //: Short, since it stands below a small picture. A hyphen may break the line.
+    const QString caption = tr("Watermark", "caption");
+    watermarkButton = named(pictureButton(section, ":/icons/watermark", caption, tr("Watermark")),
+                            "chkButWatermark");
     text = PageWidgets::labeledComboBox(section, "lblWtxt", "cmbBxWtxt", withColon(tr("Text")),
                                         boxWidth);
     for (int i = 0; i < Watermark::Repeat; ++i) {
@@ -84,8 +85,11 @@ void WatermarkTab::createWidgets()
         button->setAutoDefault(false); // Return elsewhere in the window is no click here
 
     superHeading = named(new QLabel(withColon(tr("Super watermark")), this), "lblSuperWatermark");
-    superButton = named(pictureButton(this, ":/icons/super-watermark", tr("Super watermark")),
-                        "chkButSuperWatermark");
+    //: Short, since it stands below a small picture. A hyphen may break the line.
+    const QString superCaption = tr("Super watermark", "caption");
+    superButton =
+        named(pictureButton(this, ":/icons/super-watermark", superCaption, tr("Super watermark")),
+              "chkButSuperWatermark");
     superBox = named(new ComboBoxEx(this), "cmbBxSuperWatermark");
     WatermarkTab::retranslate();
     registerWidgets();
