@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int iconHeight = 30;
-constexpr int dotSize = 8;
+constexpr int dotSize = 10;
 
 /// The middle of a row. At a higher pixel density an icon would fill the whole height of it.
 QRect iconRow(const QRect &row)
@@ -27,13 +27,14 @@ QFont textFont()
     return {QStringLiteral("Arial"), 12};
 }
 
-void drawDot(QPainter *painter, const QRect &row)
+/// At the corner of the icon, since a long text reaches to the end of its row.
+void drawDot(QPainter *painter, const QRect &icon)
 {
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
+    painter->setPen(QPen(QColor(0x55, 0x55, 0x55), 2)); // sets it off against the lines of the icon
     painter->setBrush(Qt::white);
     QRect dot(0, 0, dotSize, dotSize);
-    dot.moveCenter(QPoint(row.right() - 2 * dotSize, row.center().y()));
+    dot.moveCenter(icon.topRight());
     painter->drawEllipse(dot);
 }
 
@@ -102,6 +103,7 @@ void BixTabBar::paintEvent(QPaintEvent *)
         place.setLeft(place.left() - (iconSize().width() + 10));
         icon.paint(&painter, iconRow(place), Qt::AlignLeft | Qt::AlignVCenter, QIcon::Active);
         if (isTabEnabled(i) && tabData(i).toBool())
-            drawDot(&painter, place);
+            drawDot(&painter,
+                    QRect(place.left(), iconRow(place).top() + 2, iconSize().width(), iconHeight));
     }
 }

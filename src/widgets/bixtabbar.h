@@ -3,7 +3,7 @@
 #include <QTabBar>
 
 /// The list of pages: icon and text side by side in a dark column. Disabled tabs draw nothing. A
-/// tab whose data is true has a dot at its right end.
+/// tab whose data is true has a dot at its icon.
 class BixTabBar : public QTabBar
 {
     Q_OBJECT
