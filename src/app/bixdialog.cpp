@@ -213,10 +213,10 @@ void BixDialog::setConstraints()
     else
         constraintPasses = 0;
     endMoves();
-    if (report->isMoving())
-        return; // the outermost pass looks round and says that it is over
-    checkPrinters();
-    settling.start();
+    if (!report->isMoving()) { // the outermost pass looks round
+        checkPrinters();
+        settling.start();
+    }
     emit constraintsWorkedOut();
 }
 
