@@ -1,26 +1,18 @@
 #include "pages/printer/printertab.h"
 
-#include "model/boption.h"
-#include "model/keys.h"
 #include "model/optionstore.h"
 #include "model/printqueues.h"
 #include "model/queueppd.h"
 #include "pages/base/errorlabel.h"
-#include "pages/base/paneldialog.h"
 #include "pages/printer/printertable.h"
 #include "storage/settingsfile.h"
-#include "widgets/comboboxex.h"
-#include "widgets/constraintmark.h"
 
-#include <QCheckBox>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace {
 
@@ -307,98 +299,4 @@ void PrinterTab::refreshPage()
     clearMarks();
     applyAllWidgets();
     setBoundSignalsBlocked(false);
-}
-
-// Installed options
-
-void PrinterTab::createInstalledOptions()
-{
-    if (!currentStore)
-        return;
-    removeInstalledOptions();
-    const QList<bOption *> options = currentStore->installedOptions();
-    for (const bOption *option : options)
-        addInstalledOption(option);
-}
-
-void PrinterTab::removeInstalledOptions()
-{
-    for (const WidgetMap *map : {&boundWidgets, &markWidgets}) {
-        for (const auto &[keyword, widget] : *map) {
-            widget->hide();
-            installedGrid->removeWidget(widget);
-            widget->deleteLater(); // one of them may have sent the signal that led here
-        }
-    }
-    boundWidgets.clear();
-    markWidgets.clear();
-    installedRowCount = 0;
-}
-
-void PrinterTab::addInstalledOption(const bOption *option)
-{
-    const QString margin = QStringLiteral("margin-bottom: 8px");
-    if (option->hasChoice(Keys::no) && option->hasChoice(Keys::yes)) {
-        auto *box = new QCheckBox(option->text());
-        box->setAccessibleName(QStringLiteral("chkBx") + option->key());
-        box->setStyleSheet(margin);
-        boundWidgets.insert(option->key(), box);
-        markWidgets.insert(option->key(), box);
-        installedGrid->addWidget(box, installedRowCount++, 0, Qt::AlignLeft);
-        return;
-    }
-    auto *label = new QLabel;
-    ConstraintMark::setPlainText(label, option->text());
-    label->setAccessibleName(QStringLiteral("lbl") + option->key());
-    auto *box = new ComboBoxEx;
-    box->setAccessibleName(QStringLiteral("cmbBx") + option->key());
-    box->setStyleSheet(margin);
-    boundWidgets.insert(option->key(), box);
-    markWidgets.insert(option->key(), label);
-    installedGrid->addWidget(label, installedRowCount++, 0, Qt::AlignLeft | Qt::AlignBottom);
-    installedGrid->addWidget(box, installedRowCount++, 0, Qt::AlignLeft | Qt::AlignTop);
-}
-
-void PrinterTab::connectComboBox(ComboBoxEx *box)
-{
-    box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    const auto changed = qOverload<int>(&QComboBox::currentIndexChanged);
-    connect(box, changed, this, qOverload<int>(&Tab::markOption), Qt::UniqueConnection);
-    connect(box, changed, this, &PrinterTab::checkForChanges, Qt::UniqueConnection);
-    connect(box, changed, this, &Tab::enableOptions, Qt::UniqueConnection);
-    connect(box, changed, dialog, &PanelDialog::setConstraints, Qt::UniqueConnection);
-}
-
-void PrinterTab::connectCheckBox(QCheckBox *box)
-{
-    const auto changed = &QCheckBox::stateChanged;
-    connect(box, changed, this, qOverload<int>(&Tab::markOption), Qt::UniqueConnection);
-    connect(box, changed, this, &PrinterTab::checkForChanges, Qt::UniqueConnection);
-    connect(box, changed, this, &Tab::enableOptions, Qt::UniqueConnection);
-    connect(box, changed, dialog, &PanelDialog::setConstraints, Qt::UniqueConnection);
-}
-
-QString PrinterTab::installedValue(const QWidget *widget)
-{
-    if (const auto *check = qobject_cast<const QCheckBox *>(widget))
-        return Keys::yesOrNo(check->isChecked());
-    const auto *box = qobject_cast<const ComboBoxEx *>(widget);
-    return box ? box->currentText() : QString();
-}
-
-void PrinterTab::recordInstalledValues()
-{
-    for (const auto &[keyword, widget] : boundWidgets)
-        installedValues.insert(keyword, installedValue(widget));
-    installedChanged = false;
-    rootWarning->hide();
-}
-
-void PrinterTab::checkForChanges(int)
-{
-    installedChanged = std::any_of(
-        boundWidgets.begin(), boundWidgets.end(), [this](const WidgetMap::Entry &entry) {
-            return installedValue(entry.second) != installedValues.value(entry.first);
-        });
-    rootWarning->setVisible(installedChanged);
 }
