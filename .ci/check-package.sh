@@ -16,7 +16,7 @@ findings()
     lintian --tag-display-limit 0 "$package" 2>/dev/null
     desktop-file-validate "$work"/tree/usr/share/applications/*.desktop
     appstreamcli validate-tree --no-net --no-color "$work/tree" | grep -E '^[EWI]:' || :
-    for page in "$work"/tree/usr/share/man/man1/*.gz; do
+    for page in "$work"/tree/usr/share/man/man*/*.gz; do
         LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z "$page" 2>&1 \
             >/dev/null
     done

@@ -47,37 +47,14 @@ fail()
     exit 125
 }
 
-# The name under which the panel's profile list looks up the PPD of a model, without ".ppd".
-ppd_file_name()
-{
-    local name=$1
-    name=${name//[][]/}
-    name=${name// /_}
-    name=${name//_BRXL/}
-    name=${name//B\/W/Monochrome}
-    name=${name//NV-RATEX/NV}
-    printf '%s\n' "$name"
-}
-
-lay_sample_ppds()
-{
-    local file model
-    mkdir -p "$1"
-    for file in "$checkout"/demo/ppd/*.ppd; do
-        [ -f "$file" ] || continue
-        model=$(sed -n 's/^\*ModelName:[^"]*"\([^"]*\)".*/\1/p;T;q' "$file")
-        case $model in
-            Brixola*|NV*) cp "$file" "$1/$(ppd_file_name "$model").ppd" ;;
-        esac
-    done
-}
-
 lay_files()
 {
     local dir=$1
     mkdir -p "$dir/ppd" "$dir/brixola" "$dir/home"
     chmod 1777 "$dir/brixola"
-    lay_sample_ppds "$dir/brixola/ppd6"
+    mkdir "$dir/brixola/ppd6"
+    "$checkout/packaging/brixola-press-desk-ppds" --into "$dir/brixola/ppd6" \
+        "$checkout"/demo/ppd/*.ppd >/dev/null
     # The scheduler does not start for a user without an entry.
     cat >"$dir/passwd" <<PASSWD
 root:x:0:0:root:/root:/bin/sh
