@@ -345,11 +345,11 @@ void TestRandom::clicksEnd()
         window->run([&] { window->printers()->setCurrentCell(row, 0); });
         QVERIFY(currentStore);
         for (int step = 0; step <= clicksPerPrinter; ++step) {
-            if (window->gaveUp) {
+            QStringList wrong = faults(*window);
+            if (window->gaveUp && !wrong.isEmpty() && wrong == wrong.filter(" stays at ")) {
                 ++endless;
                 break;
             }
-            QStringList wrong = faults(*window);
             if (window->most > mostPasses || window->deepest > mostPasses + 1 ||
                 window->stack > deepestStack)
                 wrong << QString("%1 passes, %2 calls deep, %3 bytes of stack")
