@@ -45,6 +45,7 @@ WATCHERS = {
     "maker.h": ["tst_stores", "case_queues", "tst_functions TestProfileReader"],
     "monodialog.cpp": ["case_adjustments"],
     "pagesetuptable.cpp": ["tst_functions TestDesktopSettings"],
+    "panellook.cpp": ["tst_measure"],
     "passwordcipher.cpp": ["tst_functions TestPasswordCipher"],
     "passwordprompt.cpp": ["case_prompt"],
     "policyreply.cpp": ["tst_functions TestPolicyClient"],

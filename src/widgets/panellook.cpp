@@ -28,7 +28,7 @@ constexpr int usualType = 13; // pixels: 9 or 10 points on most screens
 constexpr QRgb placeholderText = 0xff707070;
 
 constexpr QPalette::ColorRole textRoles[] = {QPalette::WindowText, QPalette::Text,
-                                             QPalette::ButtonText, QPalette::PlaceholderText};
+                                             QPalette::ButtonText};
 
 int lineWidth(const QFontMetrics &metrics, int flags, const QString &text)
 {
