@@ -236,7 +236,7 @@ void TestMeasure::everyTextHasRoom()
         // In type of the usual size only what a PPD says may be too long for its box.
         if (language == "long" || points > 9 || text.contains("ComboBoxEx"))
             faults.removeAll(text);
-    // FIXME: in larger type the inputs of these pages have less room than they
+    // Not mended yet: in larger type the inputs of these pages have less room than they
     // take. Whatever else stands badly, or does so in type of the usual size, is a failure.
     for (const QString &fault : faults.filter(QRegularExpression(
              "^(Job|Publishing|Finishing|Watermark)Tab .*(overlaps|reaches beyond)")))
