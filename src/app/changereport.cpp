@@ -16,12 +16,18 @@
 
 namespace {
 
-const QLatin1String policyPrefix("FKP");
-
 bool areOff(const QList<ChangeWatch::Move> &moves)
 {
     return std::all_of(moves.cbegin(), moves.cend(),
                        [](const ChangeWatch::Move &move) { return OptionLabels::isOff(*move.to); });
+}
+
+QStringList keywordsOf(const QList<ChangeWatch::Move> &moves)
+{
+    QStringList keywords;
+    for (const ChangeWatch::Move &move : moves)
+        keywords.append(move.option->key());
+    return keywords;
 }
 
 } // namespace
@@ -101,9 +107,7 @@ void ChangeReport::restore()
     Moves moves;
     moves.swap(offered);
     // What a switch brings back comes after it.
-    QStringList keywords;
-    for (const ChangeWatch::Move &move : qAsConst(moves))
-        keywords.append(move.option->key());
+    const QStringList keywords = keywordsOf(moves);
     const QStringList followers = labels.followersAmong(keywords);
     std::stable_partition(moves.begin(), moves.end(), [&](const ChangeWatch::Move &move) {
         return !followers.contains(move.option->key());
@@ -139,7 +143,7 @@ ChangeReport::Cause ChangeReport::cause() const
     const QList<bOption *> options = currentStore ? currentStore->optionList() : QList<bOption *>();
     for (bOption *each : options) {
         OptionChoice *before = watch.atRest(each);
-        if (each->key().startsWith(policyPrefix) && before != each->current())
+        if (OptionLabels::isPolicy(*each) && before != each->current())
             return {each, before, each->current()};
     }
     return {};
@@ -149,7 +153,7 @@ QString ChangeReport::causeText(const Cause &cause) const
 {
     if (!cause.option || !cause.to)
         return QString();
-    if (cause.option->key().startsWith(policyPrefix))
+    if (OptionLabels::isPolicy(*cause.option))
         return tr("The policy server");
     return labels.shortPhrase(*cause.to);
 }
@@ -187,9 +191,7 @@ ChangeReport::Moves ChangeReport::stillLost(const Cause &cause) const
 
 ChangeReport::Moves ChangeReport::toTell(const Moves &moves) const
 {
-    QStringList keywords;
-    for (const ChangeWatch::Move &move : moves)
-        keywords.append(move.option->key());
+    const QStringList keywords = keywordsOf(moves);
     const QStringList followers = labels.followersAmong(keywords);
     Moves list;
     const QStringList order = labels.inOrder(keywords);

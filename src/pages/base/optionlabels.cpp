@@ -80,3 +80,8 @@ bool OptionLabels::isOff(const OptionChoice &choice)
 {
     return choice.key() == Keys::no || choice.key() == Keys::off || choice.key() == Keys::none;
 }
+
+bool OptionLabels::isPolicy(const bOption &option)
+{
+    return option.key().startsWith(QLatin1String("FKP"));
+}

@@ -39,6 +39,8 @@ public:
 
     /// Whether the value says that something is not done.
     static bool isOff(const OptionChoice &choice);
+    /// Whether the policy server decides on the option.
+    static bool isPolicy(const bOption &option);
 
 private:
     QList<Tab *> pages;

@@ -13,8 +13,6 @@ namespace {
 constexpr int mostReasons = 5;
 constexpr char lineFeed = '\n';
 
-const QLatin1String policyPrefix("FKP");
-
 bool isInstalledOption(const bOption &option)
 {
     return std::any_of(std::begin(Maker::installedKeywords), std::end(Maker::installedKeywords),
@@ -107,7 +105,7 @@ QString Reasons::sentence(const OptionChoice &choice, const Conditions &conditio
     bool installed = !isInstalledOption(*choice.option());
     for (const OptionChoice *condition : conditions) {
         const bOption &option = *condition->option();
-        if (option.key().startsWith(policyPrefix))
+        if (OptionLabels::isPolicy(option))
             return tr("Decided by the policy server");
         if (OptionLabels::isOff(*condition)) {
             off.append(labels.label(option));
