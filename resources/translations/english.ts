@@ -926,6 +926,14 @@ For example: %1</translation>
         <source>Select a profile of your own first.</source>
         <translation>Select a profile of your own first.</translation>
     </message>
+    <message>
+        <source>The profile does not say which printer these values are of.</source>
+        <translation>The profile does not say which printer these values are of.</translation>
+    </message>
+    <message>
+        <source>There is no PPD of %1 here to name these values. An administrator can add it with brixola-press-desk-ppds.</source>
+        <translation>There is no PPD of %1 here to name these values. An administrator can add it with brixola-press-desk-ppds.</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditDialog</name>

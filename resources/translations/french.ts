@@ -926,6 +926,14 @@ Par exemple : %1</translation>
         <source>Select a profile of your own first.</source>
         <translation>Sélectionnez d&apos;abord un de vos profils.</translation>
     </message>
+    <message>
+        <source>The profile does not say which printer these values are of.</source>
+        <translation>Le profil n’indique pas à quelle imprimante appartiennent ces valeurs.</translation>
+    </message>
+    <message>
+        <source>There is no PPD of %1 here to name these values. An administrator can add it with brixola-press-desk-ppds.</source>
+        <translation>Il n’y a pas ici de PPD de %1 pour nommer ces valeurs. Un administrateur peut l’ajouter avec brixola-press-desk-ppds.</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditDialog</name>

@@ -926,6 +926,14 @@ Zum Beispiel: %1</translation>
         <source>Select a profile of your own first.</source>
         <translation>Wählen Sie zuerst ein eigenes Profil aus.</translation>
     </message>
+    <message>
+        <source>The profile does not say which printer these values are of.</source>
+        <translation>Das Profil sagt nicht, zu welchem Drucker diese Werte gehören.</translation>
+    </message>
+    <message>
+        <source>There is no PPD of %1 here to name these values. An administrator can add it with brixola-press-desk-ppds.</source>
+        <translation>Von %1 liegt hier keine PPD vor, die diese Werte benennt. Ein Administrator kann sie mit brixola-press-desk-ppds hinzufügen.</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditDialog</name>

@@ -926,6 +926,14 @@ Ad esempio: %1</translation>
         <source>Select a profile of your own first.</source>
         <translation>Selezionare prima un proprio profilo.</translation>
     </message>
+    <message>
+        <source>The profile does not say which printer these values are of.</source>
+        <translation>Il profilo non indica a quale stampante appartengono questi valori.</translation>
+    </message>
+    <message>
+        <source>There is no PPD of %1 here to name these values. An administrator can add it with brixola-press-desk-ppds.</source>
+        <translation>Qui non c’è un PPD di %1 che dia un nome a questi valori. Un amministratore può aggiungerlo con brixola-press-desk-ppds.</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditDialog</name>

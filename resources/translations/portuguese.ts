@@ -926,6 +926,14 @@ Por exemplo: %1</translation>
         <source>Select a profile of your own first.</source>
         <translation>Selecione primeiro um perfil seu.</translation>
     </message>
+    <message>
+        <source>The profile does not say which printer these values are of.</source>
+        <translation>O perfil não indica a que impressora pertencem estes valores.</translation>
+    </message>
+    <message>
+        <source>There is no PPD of %1 here to name these values. An administrator can add it with brixola-press-desk-ppds.</source>
+        <translation>Não há aqui um PPD de %1 que dê nome a estes valores. Um administrador pode adicioná-lo com brixola-press-desk-ppds.</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditDialog</name>

@@ -926,6 +926,14 @@ Por ejemplo: %1</translation>
         <source>Select a profile of your own first.</source>
         <translation>Seleccione primero un perfil propio.</translation>
     </message>
+    <message>
+        <source>The profile does not say which printer these values are of.</source>
+        <translation>El perfil no indica a qué impresora pertenecen estos valores.</translation>
+    </message>
+    <message>
+        <source>There is no PPD of %1 here to name these values. An administrator can add it with brixola-press-desk-ppds.</source>
+        <translation>Aquí no hay ningún PPD de %1 que dé nombre a estos valores. Un administrador puede añadirlo con brixola-press-desk-ppds.</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditDialog</name>

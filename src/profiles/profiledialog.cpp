@@ -41,6 +41,7 @@ ProfileDialog::ProfileDialog(PanelDialog *dialog, SettingsSource *source)
     : QDialog(dialog)
     , profileTable(new QTableWidget(this))
     , detailTree(new QTreeWidget(this))
+    , missingPpd(new QLabel(this))
     , saveButton(new QPushButton(tr("Save") + QStringLiteral("..."), this))
     , editButton(new QPushButton(tr("Edit..."), this))
     , deleteButton(new QPushButton(tr("Delete"), this))
@@ -89,6 +90,10 @@ void ProfileDialog::createTree()
     detailTree->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     detailTree->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     detailTree->setMinimumSize(leastTreeSize);
+    missingPpd->setAccessibleName(QStringLiteral("lblMissingPpd"));
+    missingPpd->setTextFormat(Qt::PlainText);
+    missingPpd->setWordWrap(true);
+    missingPpd->hide();
 }
 
 void ProfileDialog::createButtons()
@@ -112,8 +117,9 @@ void ProfileDialog::createLayout()
     grid->addWidget(editButton, 3, 2);
     grid->addWidget(deleteButton, 4, 2);
     grid->addWidget(detailTree, 8, 1, 1, 2);
-    grid->addWidget(line, 9, 1, 1, 2);
-    grid->addWidget(buttonBox, 10, 1, 1, 2, Qt::AlignRight);
+    grid->addWidget(missingPpd, 9, 1, 1, 2);
+    grid->addWidget(line, 10, 1, 1, 2);
+    grid->addWidget(buttonBox, 11, 1, 1, 2, Qt::AlignRight);
 }
 
 void ProfileDialog::connectAll(PanelDialog *dialog)
@@ -224,8 +230,10 @@ void ProfileDialog::showDetails(int row)
 
 void ProfileDialog::fillDetailTree(int row)
 {
-    const QList<ProfileSection> sections = profileSections(
-        row == factoryRow ? factoryDefaults() : readProfile(profilePath(profileName(row))));
+    QString missing;
+    const QList<ProfileSection> sections =
+        profileSections(row == factoryRow ? factoryDefaults()
+                                          : readProfile(profilePath(profileName(row)), &missing));
     for (const ProfileSection &section : sections) {
         auto *heading = new QTreeWidgetItem(detailTree, {section.heading});
         for (const ProfileRow &detail : section.rows) {
@@ -235,6 +243,28 @@ void ProfileDialog::fillDetailTree(int row)
         }
     }
     detailTree->expandAll();
+    tellMissingPpd(missing);
+}
+
+/// \param model as readProfile() tells it
+void ProfileDialog::tellMissingPpd(const QString &model)
+{
+    QString text;
+    if (!model.isEmpty())
+        text =
+            tr("There is no PPD of %1 here to name these values. An administrator can add it with "
+               "brixola-press-desk-ppds.")
+                .arg(model);
+    else if (!model.isNull())
+        text = tr("The profile does not say which printer these values are of.");
+    missingPpd->setText(text);
+    missingPpd->setVisible(!text.isEmpty());
+    const int taken =
+        missingPpd->isHidden()
+            ? 0
+            : missingPpd->heightForWidth(qMax(leastTreeSize.width(), detailTree->width())) +
+                  layout()->spacing();
+    detailTree->setMinimumHeight(leastTreeSize.height() - taken);
 }
 
 // What the buttons do

@@ -7,6 +7,7 @@ class PanelDialog;
 class ProfileEditDialog;
 class ProfileSaveDialog;
 class QDialogButtonBox;
+class QLabel;
 class QPushButton;
 class QTableWidget;
 class QTreeWidget;
@@ -49,9 +50,11 @@ private:
     QString profileName(int row) const;
     void showDetails(int row);
     void fillDetailTree(int row);
+    void tellMissingPpd(const QString &model);
 
     QTableWidget *profileTable;
     QTreeWidget *detailTree;
+    QLabel *missingPpd; ///< below the tree, in room that it takes from it
     QPushButton *saveButton;
     QPushButton *editButton;
     QPushButton *deleteButton;

@@ -31,6 +31,7 @@ struct TreeRow
 };
 
 const QLatin1String descriptionKeyword("ProfileDescription");
+const QLatin1String textWithoutPpd("ERROR 3");
 constexpr qint64 largestPpd = 8 << 20; // bytes
 constexpr char genericKeyword[] = "Generic";
 constexpr char policyKeyword[] = "FKP_enabled";
@@ -162,7 +163,7 @@ QString textWithoutOption(const QString &key, const QString &value)
 QString shownText(const OptionStore *store, const QString &key, const QString &value)
 {
     if (!store)
-        return QStringLiteral("ERROR 3");
+        return textWithoutPpd;
     const bOption *option = store->find(key);
     if (!option)
         return textWithoutOption(key, value);
@@ -219,9 +220,10 @@ QString profilePpdPath(const QString &modelLine)
     return QStringLiteral("/usr/share/brixola/ppd6/") + name + QStringLiteral(".ppd");
 }
 
-ProfileDetails readProfile(const QString &path)
+ProfileDetails readProfile(const QString &path, QString *missing)
 {
     ProfileDetails details;
+    QString model(QLatin1String(""));
     // By line, so that a file full of such lines has each PPD read once.
     std::map<QString, std::unique_ptr<OptionStore>> stores;
     const OptionStore *store = nullptr;
@@ -232,10 +234,17 @@ ProfileDetails readProfile(const QString &path)
             if (stores.find(entry.line) == stores.end())
                 stores[entry.line] = importModel(entry.line);
             store = stores[entry.line].get();
+            model = entry.line.mid(1).chopped(1);
         }
-        if (!entry.key.isEmpty())
-            details.insert(entry.key, shownText(store, entry.key, entry.value));
+        if (entry.key.isEmpty())
+            return;
+        if (!store && missing && missing->isNull())
+            *missing = model;
+        details.insert(entry.key, shownText(store, entry.key, entry.value));
     });
+    // A later line of the same key may have found its PPD.
+    if (missing && !details.values().contains(textWithoutPpd))
+        *missing = QString();
     return details;
 }
 

@@ -31,7 +31,9 @@ struct ProfileSection
 /// named say why: "ERROR 1" for one that its option lacks, "ERROR 2" for one of an unknown option,
 /// "ERROR 3" for all of a profile whose printer has no PPD here. Of several lines with a key the
 /// last one shows.
-ProfileDetails readProfile(const QString &path);
+/// \param missing becomes the first model that has values but no PPD here, such as "Brixola
+/// PX-4500"; empty, but not null, for values before any model
+ProfileDetails readProfile(const QString &path, QString *missing = nullptr);
 
 /// The details of the selected printer's default settings; empty with no printer.
 ProfileDetails factoryDefaults();
