@@ -316,7 +316,7 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.printRatio("importPpd", "ppdOpenFile", 1.0);
+    reporter.printRatio("importPpd", "ppdOpenFile", 0.5);
     reporter.printRatio("select+isBlocked", "ppdMarkOption+ppdConflicts", 0.1);
     return 0;
 }

@@ -5,8 +5,11 @@
 #include "model/maker.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
+#include "model/valueindex.h"
 
 #include <QStringList>
+
+#include <algorithm>
 
 namespace {
 
@@ -120,8 +123,6 @@ constexpr GroupRule groupRules[] = {
     {{"BXBooklet", "None", "PageSize", "A5"}, "cStpl", "True"},
 };
 
-using Value = QPair<QString, QString>;
-
 template <size_t count>
 void addPairRules(OptionStore *store, const PairRule (&rules)[count])
 {
@@ -143,19 +144,30 @@ void addInterleavingMediaRules(OptionStore *store)
     }
 }
 
+/// Takes the text before the first separator, or all of it, off the front.
+std::string_view cutOff(std::string_view *text, char separator)
+{
+    const std::string_view front = text->substr(0, text->find(separator));
+    text->remove_prefix(std::min(front.size() + 1, text->size()));
+    return front;
+}
+
 /// Which value an entry of a three-way rule stands for: a PPD names the fold, punch or staple
 /// style, the panel blocks the mode as a whole, whatever the style.
-Value ruleValue(const QString &option, const QString &choice)
+OptionRef ruleValue(const ValueIndex &values, std::string_view option, std::string_view choice)
 {
-    if (choice == QLatin1String("Bifold"))
-        return {QStringLiteral("cBiFld"), Keys::yes};
-    if (choice == QLatin1String("Trifold"))
-        return {QStringLiteral("cTriFld"), Keys::yes};
-    if (option == QLatin1String("Stpl"))
-        return {QStringLiteral("cStpl"), Keys::yes};
-    if (option == QLatin1String("Pnch"))
-        return {QStringLiteral("cHole"), Keys::yes};
-    return {option, choice};
+    const auto mode = [&values](std::string_view key) {
+        return values.find(key, Keys::yes.data());
+    };
+    if (choice == "Bifold")
+        return mode("cBiFld");
+    if (choice == "Trifold")
+        return mode("cTriFld");
+    if (option == "Stpl")
+        return mode("cStpl");
+    if (option == "Pnch")
+        return mode("cHole");
+    return values.find(option, choice);
 }
 
 /// Gives (option, choice) those conflicts of `source` whose other side ranks below `limit`.
@@ -192,16 +204,18 @@ void setPriorities(OptionStore *store)
     }
 }
 
-void addCupsUiConstraint(OptionStore *store, const QString &value)
+void addCupsUiConstraint(const ValueIndex &values, std::string_view rule)
 {
-    QList<Value> values;
-    const QStringList parts = value.split(QLatin1Char('*'));
-    for (const QString &part : parts) {
-        const QStringList pieces = part.split(QLatin1Char(' '));
-        if (pieces.size() >= 2)
-            values.append(ruleValue(pieces[0], pieces[1]));
+    OptionRefList named;
+    named.reserve(3);
+    while (!rule.empty()) {
+        std::string_view part = cutOff(&rule, '*');
+        const bool isValue = part.find(' ') != std::string_view::npos;
+        const std::string_view option = cutOff(&part, ' ');
+        if (isValue)
+            named.append(ruleValue(values, option, cutOff(&part, ' ')));
     }
-    store->addGroupConstraint(values);
+    OptionStore::addGroupConstraint(named);
 }
 
 void addFixedGroupRules(OptionStore *store)

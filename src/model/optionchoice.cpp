@@ -55,8 +55,8 @@ void OptionChoice::arm()
     Q_ASSERT(option_ && option_->current() == this); // only a selected value blocks others
     armed = true;
     const int priority = option_->priority();
-    const QList<OptionRef> pairs = pairConstraints.list();
-    const QList<OptionRefList> rules = groupConstraints.list();
+    const QVector<OptionRef> pairs = pairConstraints.list();
+    const QVector<OptionRefList> rules = groupConstraints.list();
     for (const OptionRef &other : pairs) {
         // The lower number wins, so a stronger option never yields; equals block each other.
         if (other.option->priority() >= priority)
@@ -72,8 +72,8 @@ void OptionChoice::arm()
 void OptionChoice::release()
 {
     armed = false;
-    const QList<OptionRef> pairs = pairConstraints.list();
-    const QList<OptionRefList> rules = groupConstraints.list();
+    const QVector<OptionRef> pairs = pairConstraints.list();
+    const QVector<OptionRefList> rules = groupConstraints.list();
     // Whatever the priorities say now: they may have changed since the block was posted.
     for (const OptionRef &other : pairs)
         other.choice->activePairBlocks.remove({option_, this});

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QPair>
 #include <QString>
+#include <QVector>
 
 class bOption;
 class OptionChoice;
@@ -21,6 +22,8 @@ struct OptionRef
     bool operator!=(const OptionRef &other) const { return !(*this == other); }
 };
 
+Q_DECLARE_TYPEINFO(OptionRef, Q_PRIMITIVE_TYPE);
+
 inline uint qHash(const OptionRef &ref, uint seed = 0)
 {
     return qHash(qMakePair(ref.option, ref.choice), seed);
@@ -28,7 +31,7 @@ inline uint qHash(const OptionRef &ref, uint seed = 0)
 
 /// A three-way rule: conditions first, the value that they block last. Equal when the same values
 /// stand at the same places.
-using OptionRefList = QList<OptionRef>;
+using OptionRefList = QVector<OptionRef>;
 
 /// Entries in the order in which they came, each of them once.
 ///
@@ -42,13 +45,20 @@ public:
     /// Appends the entry unless it is there. An empty T is no entry.
     void append(const T &entry)
     {
-        if (indexOf(entry) >= 0)
-            return;
-        entries.append(entry);
-        if (!positions.isEmpty())
-            positions.insert(entry, entries.size() - 1);
-        else
+        if (positions.isEmpty()) {
+            if (entries.contains(entry))
+                return;
+            entries.append(entry);
             indexIfLong();
+            return;
+        }
+        // One look into the index, which grows only by what is new.
+        const int known = positions.size();
+        int &position = positions[entry];
+        if (positions.size() == known)
+            return;
+        position = entries.size();
+        entries.append(entry);
     }
     /// Removes the entry if it is there; the others keep their order.
     void remove(const T &entry)
@@ -70,9 +80,9 @@ public:
         }
     }
     bool isEmpty() const { return entries.isEmpty(); }
-    QList<T> list() const
+    QVector<T> list() const
     {
-        QList<T> present = entries;
+        QVector<T> present = entries;
         if (!positions.isEmpty() && positions.size() < entries.size())
             present.removeAll(T());
         return present;
@@ -91,7 +101,7 @@ private:
             positions.insert(entries[i], i);
     }
 
-    QList<T> entries;        ///< an empty T for each one that an indexed list has lost
+    QVector<T> entries;      ///< an empty T for each one that an indexed list has lost
     QHash<T, int> positions; ///< of all entries; empty while they are few
 };
 
@@ -121,13 +131,13 @@ public:
     bool isValid() const;
 
     /// Every value that this one excludes, one to one.
-    QList<OptionRef> pairConstraintList() const { return pairConstraints.list(); }
+    QList<OptionRef> pairConstraintList() const { return pairConstraints.list().toList(); }
     /// Every three-way rule that names this value.
-    QList<OptionRefList> groupConstraintList() const { return groupConstraints.list(); }
+    QList<OptionRefList> groupConstraintList() const { return groupConstraints.list().toList(); }
     /// The selected values that forbid this one now.
-    QList<OptionRef> pairBlockList() const { return activePairBlocks.list(); }
+    QList<OptionRef> pairBlockList() const { return activePairBlocks.list().toList(); }
     /// The three-way rules that forbid this value now.
-    QList<OptionRefList> groupBlockList() const { return activeGroupBlocks.list(); }
+    QList<OptionRefList> groupBlockList() const { return activeGroupBlocks.list().toList(); }
 
     /// Adds one direction of a pair rule, unless it is there. OptionStore::addConstraint() adds
     /// both. Posts no block.

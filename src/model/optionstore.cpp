@@ -10,13 +10,14 @@ namespace {
 
 /// Orders a three-way rule. The three tests run one after the other: options of equal priority pass
 /// several of them, and the longer lists that come out of it decide which value is the target.
-OptionRefList orderedByPriority(const OptionRef (&l)[3])
+OptionRefList orderedByPriority(const OptionRefList &l)
 {
     const int a = l[0].option->priority();
     const int b = l[1].option->priority();
     const int c = l[2].option->priority();
 
     OptionRefList rule;
+    rule.reserve(l.size());
     if (a <= b && a <= c)
         rule << l[0] << (b > c ? l[2] : l[1]) << (b > c ? l[1] : l[2]);
     if (b <= c && b <= a)
@@ -43,11 +44,18 @@ void OptionStore::insert(bOption *option)
     slot = option;
 }
 
-void OptionStore::setCurrentByKey(const QString &optionKey, const QString &choiceKey)
+OptionRef OptionStore::findValue(const QString &optionKey, const QString &choiceKey) const
 {
     bOption *option = find(optionKey);
-    if (OptionChoice *choice = option ? option->findChoice(choiceKey) : nullptr)
-        option->setCurrent(choice);
+    OptionChoice *choice = option ? option->findChoice(choiceKey) : nullptr;
+    return choice ? OptionRef{option, choice} : OptionRef();
+}
+
+void OptionStore::setCurrentByKey(const QString &optionKey, const QString &choiceKey)
+{
+    const OptionRef value = findValue(optionKey, choiceKey);
+    if (value.choice)
+        value.option->setCurrent(value.choice);
 }
 
 void OptionStore::setPriority(const QString &optionKey, int priority)
@@ -59,31 +67,30 @@ void OptionStore::setPriority(const QString &optionKey, int priority)
 void OptionStore::addConstraint(const QString &option1, const QString &choice1,
                                 const QString &option2, const QString &choice2)
 {
-    bOption *first = find(option1);
-    bOption *second = find(option2);
-    if (!first || !second)
+    addConstraint(findValue(option1, choice1), findValue(option2, choice2));
+}
+
+void OptionStore::addConstraint(const OptionRef &first, const OptionRef &second)
+{
+    if (!first.choice || !second.choice)
         return;
-    OptionChoice *firstChoice = first->findChoice(choice1);
-    OptionChoice *secondChoice = second->findChoice(choice2);
-    if (!firstChoice || !secondChoice)
-        return;
-    firstChoice->addPairConstraint(second, secondChoice);
-    secondChoice->addPairConstraint(first, firstChoice);
+    first.choice->addPairConstraint(second.option, second.choice);
+    second.choice->addPairConstraint(first.option, first.choice);
 }
 
 void OptionStore::addGroupConstraint(const QList<QPair<QString, QString>> &values)
 {
-    if (values.size() != 3)
+    OptionRefList found;
+    for (const auto &[option, choice] : values)
+        found.append(findValue(option, choice));
+    addGroupConstraint(found);
+}
+
+void OptionStore::addGroupConstraint(const OptionRefList &values)
+{
+    if (values.size() != 3 || values.contains(OptionRef()))
         return;
-    OptionRef refs[3];
-    for (int i = 0; i < 3; ++i) {
-        bOption *option = find(values[i].first);
-        OptionChoice *choice = option ? option->findChoice(values[i].second) : nullptr;
-        if (!choice)
-            return;
-        refs[i] = {option, choice};
-    }
-    const OptionRefList rule = orderedByPriority(refs);
+    const OptionRefList rule = orderedByPriority(values);
     for (const OptionRef &entry : rule)
         entry.choice->addGroupConstraint(rule);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/optionchoice.h"
+
 #include <QHash>
 #include <QList>
 #include <QPair>
@@ -7,8 +9,6 @@
 
 #include <memory>
 #include <vector>
-
-class bOption;
 
 /// The options of one printer by keyword: those its PPD declares and those the panel adds.
 ///
@@ -28,6 +28,8 @@ public:
 
     /// Null for a keyword that this printer lacks: every caller tests.
     bOption *find(const QString &key) const { return options.value(key); }
+    /// Both pointers are null for a value that this printer lacks.
+    OptionRef findValue(const QString &optionKey, const QString &choiceKey) const;
     /// Takes the option over; under a used keyword it replaces the one before.
     void insert(bOption *option);
     /// All options, in no order that anybody may rely on.
@@ -40,9 +42,13 @@ public:
     /// The two values exclude each other; the option with the lower priority number wins.
     void addConstraint(const QString &option1, const QString &choice1, const QString &option2,
                        const QString &choice2);
+    /// The same for values that are found already. Without effect if one of them is null.
+    static void addConstraint(const OptionRef &first, const OptionRef &second);
     /// Two of three values, given as keyword and choice key, exclude the third: the one whose
     /// option ranks lowest at the time of the call. Without effect for any other number of values.
     void addGroupConstraint(const QList<QPair<QString, QString>> &values);
+    /// The same for values that are found already. Without effect if one of them is null.
+    static void addGroupConstraint(const OptionRefList &values);
     /// Withdraws all blocks. The selection stays, and acts again as each option is set anew.
     void releaseAllConstraints();
 

@@ -6,13 +6,27 @@
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
 #include "model/syntheticoptions.h"
+#include "model/valueindex.h"
 
 #include <QFile>
 
+#include <algorithm>
 #include <cstring>
 #include <unistd.h>
 
 namespace {
+
+/// Gives the texts in the user's language. It looks up each of them, in vain if no keyword of the
+/// PPD has a language: those begin with it and a full stop (CUPS PPD extensions, "de.Translation"),
+/// and ppdOpenFile() has dropped those of other languages.
+void localize(ppd_file_t *ppd)
+{
+    const bool translated =
+        std::any_of(ppd->attrs, ppd->attrs + ppd->num_attrs,
+                    [](const ppd_attr_t *attribute) { return std::strchr(attribute->name, '.'); });
+    if (translated)
+        ppdLocalize(ppd);
+}
 
 void detectFilters(const ppd_file_t *ppd, OptionStore *store)
 {
@@ -37,12 +51,15 @@ bOption *importOption(const ppd_option_t &source)
     return option.release();
 }
 
-void importOptions(const ppd_file_t *ppd, OptionStore *store)
+void importOptions(const ppd_file_t *ppd, OptionStore *store, ValueIndex *values)
 {
     for (int i = 0; i < ppd->num_groups; ++i) {
         const ppd_group_t &group = ppd->groups[i];
-        for (int j = 0; j < group.num_options; ++j)
-            store->insert(importOption(group.options[j]));
+        for (int j = 0; j < group.num_options; ++j) {
+            bOption *option = importOption(group.options[j]);
+            store->insert(option);
+            values->add(option);
+        }
     }
 }
 
@@ -55,14 +72,13 @@ bool isCollationAgainstStorage(const ppd_const_t &rule)
     return names("Coll", "BXCollate1") || names("BXCollate1", "Coll");
 }
 
-void importPairConstraints(const ppd_file_t *ppd, OptionStore *store)
+void importPairConstraints(const ppd_file_t *ppd, const ValueIndex &values)
 {
     for (int i = 0; i < ppd->num_consts; ++i) {
         const ppd_const_t &rule = ppd->consts[i];
         if (!isCollationAgainstStorage(rule))
-            store->addConstraint(
-                QString::fromLatin1(rule.option1), QString::fromLatin1(rule.choice1),
-                QString::fromLatin1(rule.option2), QString::fromLatin1(rule.choice2));
+            OptionStore::addConstraint(values.find(rule.option1, rule.choice1),
+                                       values.find(rule.option2, rule.choice2));
     }
 }
 
@@ -73,13 +89,22 @@ void selectDefaults(OptionStore *store)
         option->setCurrent(option->defaultChoice());
 }
 
-void importGroupConstraints(ppd_file_t *ppd, OptionStore *store)
+/// The rules of the PPD may name the panel's own options too.
+void addOwnOptions(const OptionStore &store, ValueIndex *values)
+{
+    const QList<bOption *> options = store.optionList();
+    for (bOption *option : options) {
+        if (!option->isPpdOption())
+            values->add(option);
+    }
+}
+
+void importGroupConstraints(ppd_file_t *ppd, const ValueIndex &values)
 {
     constexpr char keyword[] = "cupsUIConstraints";
     for (const ppd_attr_t *attribute = ppdFindAttr(ppd, keyword, nullptr); attribute;
          attribute = ppdFindNextAttr(ppd, keyword, nullptr))
-        addCupsUiConstraint(store, QString::fromLatin1(attribute->value));
-    addFixedGroupRules(store);
+        addCupsUiConstraint(values, attribute->value ? attribute->value : "");
 }
 
 std::unique_ptr<OptionStore> importAndClose(ppd_file_t *ppd)
@@ -96,10 +121,11 @@ std::unique_ptr<OptionStore> importAndClose(ppd_file_t *ppd)
 
 void importPpd(ppd_file_t *ppd, OptionStore *store)
 {
-    ppdLocalize(ppd);
+    localize(ppd);
     detectFilters(ppd, store);
-    importOptions(ppd, store);
-    importPairConstraints(ppd, store);
+    ValueIndex values;
+    importOptions(ppd, store, &values);
+    importPairConstraints(ppd, values);
     selectDefaults(store);
     // No second run of the pair constraints after the defaults: equal pairs are stored once, so it
     // would add nothing.
@@ -110,7 +136,9 @@ void importPpd(ppd_file_t *ppd, OptionStore *store)
     addPolicyOptions(store);
     addFixedPairRules(store);
     setPriorities(store);
-    importGroupConstraints(ppd, store);
+    addOwnOptions(*store, &values);
+    importGroupConstraints(ppd, values);
+    addFixedGroupRules(store);
     addDerivedRules(store);
 }
 
