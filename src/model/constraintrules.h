@@ -1,9 +1,6 @@
 #pragma once
 
-#include <string_view>
-
 class OptionStore;
-class ValueIndex;
 
 /// The rules that the panel adds to those of a printer's PPD. A rule whose option or value the
 /// printer lacks vanishes. importPpd() runs them in a fixed order, since some copy others and
@@ -15,9 +12,6 @@ void addPublishingRules(OptionStore *store);
 void addFixedPairRules(OptionStore *store);
 /// Ranks the options: hardware and policy above media, layout, finishing, job modes, collation.
 void setPriorities(OptionStore *store);
-/// One three-way rule in the form of the PPD attribute cupsUIConstraints (a CUPS PPD extension):
-/// "*Option Choice *Option Choice *Option Choice". Other numbers of values make no rule.
-void addCupsUiConstraint(const ValueIndex &values, std::string_view rule);
 /// Stapling against booklets and short paper.
 void addFixedGroupRules(OptionStore *store);
 /// Rules that copy those of other values: storage behind collation, forced duplex behind duplex.

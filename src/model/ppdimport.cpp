@@ -2,6 +2,7 @@
 
 #include "model/boption.h"
 #include "model/constraintrules.h"
+#include "model/cupsuiconstraint.h"
 #include "model/maker.h"
 #include "model/optionchoice.h"
 #include "model/optionstore.h"
@@ -58,7 +59,7 @@ void importOptions(const ppd_file_t *ppd, OptionStore *store, ValueIndex *values
         for (int j = 0; j < group.num_options; ++j) {
             bOption *option = importOption(group.options[j]);
             store->insert(option);
-            values->add(option);
+            values->add(option, group.options[j]);
         }
     }
 }
