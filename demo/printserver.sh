@@ -5,6 +5,8 @@
 #   printserver.sh queues DIR                     add the five sample queues
 #   printserver.sh add DIR NAME PPDFILE [URI]     add one queue (URI: file:///dev/null)
 #   printserver.sh remove DIR NAME                remove one queue
+#   printserver.sh many DIR COUNT PPDFILE [NAME]  lay COUNT queues, NAME1 (Queue1) and so on, into
+#                                                 DIR for the next start
 #   printserver.sh stop DIR                       stop it and wait until it is gone
 #   printserver.sh serve DIR COMMAND...           run a command on a print server without queues
 #   printserver.sh with DIR COMMAND...            run a command on the five sample queues
@@ -146,6 +148,21 @@ add()
         fail_with_log "queue $name: $message"
 }
 
+# At once, which takes lpadmin a minute for a thousand.
+lay_many()
+{
+    local count=$1 ppd=$2 name=${3:-Queue} i
+    [ -r "$ppd" ] || fail "cannot read $ppd"
+    ! running || fail "the print server in $dir is running, and would not see them"
+    write_configuration
+    for ((i = 1; i <= count; ++i)); do
+        cp "$ppd" "$dir/conf/ppd/$name$i.ppd"
+        printf '<Printer %s>\nDeviceURI file:///dev/null\nState Idle\nAccepting Yes\n' "$name$i"
+        # Long ago, as on a print server that stands.
+        printf 'ConfigTime 1700000000\n</Printer>\n'
+    done >>"$dir/conf/printers.conf"
+}
+
 fit()
 {
     local name=$1 message
@@ -196,7 +213,7 @@ run_with_queues()
 
 usage()
 {
-    sed -n '4,10s/^# *//p' "${BASH_SOURCE[0]}" >&2
+    sed -n '4,12s/^# *//p' "${BASH_SOURCE[0]}" >&2
     exit 2
 }
 
@@ -215,6 +232,7 @@ case $command:$# in
     queues:0) add_sample_queues ;;
     add:2 | add:3) add "$@" ;;
     remove:1) remove "$1" ;;
+    many:2 | many:3) lay_many "$@" ;;
     stop:0) stop ;;
     serve:0 | with:0) usage ;;
     serve:*) run_with_server "$@" ;;
