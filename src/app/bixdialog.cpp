@@ -5,7 +5,6 @@
 #include "app/publication.h"
 #include "app/settingscollector.h"
 #include "model/optionstore.h"
-#include "model/printqueues.h"
 #include "pages/base/optionlabels.h"
 #include "pages/basic/generaltab.h"
 #include "pages/imaging/imagingtab.h"
@@ -157,44 +156,6 @@ void BixDialog::profileChanged()
     }
 }
 
-void BixDialog::unselectPrinters()
-{
-    currentStore = nullptr; // the object stays with the Printer page
-    printerTab->clearPrinterSelection();
-    setWindowTitle(tr("Brixola Press Desk"));
-    setButtonsEnabled(false);
-    setProfileButtonsEnabled(false);
-    enableTabs();
-    report->startOver();
-    settling.start();
-}
-
-bool BixDialog::checkPrinters()
-{
-    PrintSystem state;
-    const QSet<QString> current = queueNames(&state);
-    if (state == PrintSystem::Silent)
-        notice->showWork(tr("Print server does not answer."));
-    else
-        notice->endWork();
-    if (state == PrintSystem::Silent || current == knownPrinters)
-        return false;
-    printerTab->reloadPrinterTable();
-    if (!isSelectedPrinterKnown()) {
-        unselectPrinters();
-        QMessageBox box(this);
-        box.setWindowTitle(tr("Error"));
-        box.setText(tr("It looks like your installed printers have changed.\nReloading list now."));
-        box.exec();
-    }
-    return true;
-}
-
-bool BixDialog::isSelectedPrinterKnown()
-{
-    return currentStore && knownPrinters.contains(currentStore->printerName());
-}
-
 // The constraint pass
 
 void BixDialog::setConstraints()
@@ -214,7 +175,7 @@ void BixDialog::setConstraints()
         constraintPasses = 0;
     endMoves();
     if (!report->isMoving()) { // the outermost pass looks round
-        checkPrinters();
+        queueWatch.look();
         settling.start();
     }
     emit constraintsWorkedOut();

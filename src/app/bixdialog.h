@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/queuewatch.h"
 #include "pages/base/paneldialog.h"
 #include "storage/settingsfile.h"
 
@@ -33,11 +34,13 @@ class UserLoginTab;
 /// each change: pages move off blocked values, which may block others, so it repeats itself until
 /// nothing moves, ten times at most; any mark left holds back OK and Apply. Apply publishes.
 ///
-/// After each pass the queues of the print system are compared with the known ones, and a printer
-/// that is gone is unselected: after every call that may look, `currentStore` may be null.
+/// After each pass the queues of the print system are looked at, beside what goes on, and compared
+/// with the known ones; a printer that is gone is unselected. Selecting a printer and Apply look by
+/// themselves: after a call that may lead there, `currentStore` may be null.
 class BixDialog : public PanelDialog
 {
     Q_OBJECT
+    Q_PROPERTY(bool looking READ isLooking)
 
 public:
     explicit BixDialog(QWidget *parent = nullptr);
@@ -47,6 +50,8 @@ public:
     void endMoves() override;
     void recordInstalledValues() override;
     void showApplied() override;
+    /// Whether a look at the queues is under way that a pass has asked for.
+    bool isLooking() const { return queueWatch.isLooking(); }
 
 public slots:
     void writeTolpoptions() override;
@@ -96,9 +101,14 @@ private:
     /// `settings` must stay as they are for as long. False if they aren't published.
     bool publish(const QString &printer, const Settings &settings);
     void showFailedPublication();
-    /// Fills the table of printers anew if they are others now, and unselects one that is gone.
-    /// True if they are others.
+    void watchQueues();
+    /// Takes the answer to a look, or puts it off while a dialog is open.
+    void takeQueueNames(PrintSystem state, const QSet<QString> &names);
+    /// Looks at the queues at once, and shows if they are others now. True if they are.
     bool checkPrinters();
+    void tellSilence(PrintSystem state);
+    /// Lists the queues anew, and unselects a printer that is gone.
+    void showOtherQueues();
     static bool isSelectedPrinterKnown();
     /// One round over all pages; true if another one is due.
     bool runPass();
@@ -128,6 +138,8 @@ private:
     std::unique_ptr<KeyboardAreas> areas;
     std::unique_ptr<OptionLabels> labels;
     std::unique_ptr<ChangeReport> report;
+    QueueWatch queueWatch;
+    QTimer retry;    ///< runs out when an answer that was put off is due
     QTimer settling; ///< runs out when the click is over that led to a pass
     std::unique_ptr<SettingsCollector> collector;
     std::unique_ptr<Publication> publication;

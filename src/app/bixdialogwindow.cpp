@@ -89,6 +89,7 @@ BixDialog::BixDialog(QWidget *parent)
     labels = std::make_unique<OptionLabels>(pages);
     settling.setSingleShot(true);
     connect(&settling, &QTimer::timeout, this, &BixDialog::settle);
+    watchQueues();
     createButtons();
     createProfileDialogs();
     createTabs();

@@ -97,6 +97,7 @@ PrinterStatusReader::~PrinterStatusReader() = default;
 
 void PrinterStatusReader::ask(const QStringList &queues)
 {
+    waiting_.clear();
     // A queue may have several rows; one call serves them all.
     for (const QString &queue : queues) {
         if (!unresponsive_.contains(queue) && !isAsking(queue))

@@ -25,7 +25,8 @@ public:
     explicit PrinterStatusReader(QObject *parent = nullptr);
     ~PrinterStatusReader() override;
 
-    /// Asks for each of the queues, in their order; one that is being asked for is not asked twice.
+    /// Asks for each of the queues, in their order, and no more for those that wait for their turn
+    /// since an earlier call; one that is being asked for is not asked twice.
     void ask(const QStringList &queues);
     /// Forgets what is not answered, and asks every queue again from now on.
     void startOver();

@@ -7,6 +7,7 @@
 #include <memory>
 
 class OptionStore;
+struct PrintQueue;
 struct ppd_file_s; // of libcups, which stays out of the headers that pages include
 
 /// The PPD of a print queue: a temporary copy (cupsGetPPD) that is closed and removed with the
@@ -15,16 +16,7 @@ struct ppd_file_s; // of libcups, which stays out of the headers that pages incl
 class QueuePpd
 {
 public:
-    /// What is worth the full parse.
-    enum class Filter
-    {
-        Any,
-        MayBeMakers
-    };
-
-    /// With Filter::MayBeMakers the PPD stays unopened if its text names none of the maker's
-    /// brands: a print server may have a thousand queues of others.
-    explicit QueuePpd(const QString &queue, Filter filter = Filter::Any);
+    explicit QueuePpd(const QString &queue);
     QueuePpd(const QueuePpd &) = delete;
     QueuePpd &operator=(const QueuePpd &) = delete;
     ~QueuePpd();
@@ -35,8 +27,6 @@ public:
     std::unique_ptr<OptionStore> makeStore() const;
     /// The option keywords in the order of the file, group by group.
     QStringList optionKeywords() const;
-    /// How many of the PPD's filter lines name a filter of the maker; 0 for a foreign printer.
-    int makerFilterCount() const;
 
     /// Leaves the temporary copy on disk, and the PPD open as long as the object lives.
     void leaveFile() { keepFile_ = true; }
@@ -48,5 +38,6 @@ private:
 };
 
 /// How many rows the queue has in the printer table: one for each filter line of the maker, none
-/// for a queue of other makers or without a usable PPD.
-int makerRowCount(const QString &queue);
+/// for a queue of other makers or without a usable PPD. The PPD is read anew only when the queue has
+/// been set up or changed since the last time.
+int makerRowCount(const PrintQueue &queue);

@@ -51,6 +51,16 @@ void NoticeLine::endWork()
     showFitting();
 }
 
+void NoticeLine::showState(const QString &text)
+{
+    if (state_ == text)
+        return;
+    state_ = text;
+    showFitting();
+    if (!state_.isEmpty())
+        announce();
+}
+
 void NoticeLine::focusInEvent(QFocusEvent *event)
 {
     QLabel::focusInEvent(event);
@@ -74,18 +84,20 @@ QString NoticeLine::listOf(int count) const
 
 void NoticeLine::showFitting()
 {
+    const QString blank = QStringLiteral(" ");
+    const bool isAlone = work_.isEmpty() && !sentence_;
+    const QString state = state_.isEmpty() || isAlone ? state_ : state_ + blank;
     if (!work_.isEmpty() || !sentence_) {
-        setText(work_.toHtmlEscaped());
+        setText((state + work_).toHtmlEscaped());
         return;
     }
-    const QString blank = QStringLiteral(" ");
-    const int room = contentsRect().width() -
+    const int room = contentsRect().width() - fontMetrics().horizontalAdvance(state) -
                      fontMetrics().horizontalAdvance(link_.isEmpty() ? link_ : blank + link_);
     int count = items_.size();
     QString text = sentence_(listOf(count));
     while (count > 1 && fontMetrics().horizontalAdvance(text) > room)
         text = sentence_(listOf(--count));
-    text = fontMetrics().elidedText(text, Qt::ElideRight, room).toHtmlEscaped();
+    text = (state + fontMetrics().elidedText(text, Qt::ElideRight, room)).toHtmlEscaped();
     if (!link_.isEmpty())
         text += QStringLiteral(" <a href=\"#\">%1</a>").arg(link_.toHtmlEscaped());
     setText(text);

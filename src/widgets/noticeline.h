@@ -29,6 +29,8 @@ public:
     /// Stands in front of what is told until endWork().
     void showWork(const QString &text);
     void endWork();
+    /// Says how things stand, before whatever else it shows; an empty text ends it.
+    void showState(const QString &text);
 
 protected:
     /// The link takes the focus: there is nothing else.
@@ -44,4 +46,5 @@ private:
     QStringList items_;
     QString link_;
     QString work_;
+    QString state_;
 };

@@ -32,18 +32,20 @@ int loopLevel()
 
 // Longer than commands take that are well.
 constexpr int patienceMs = 3000;
-constexpr int statusPatienceMs = 1000;
+constexpr int answerPatienceMs = 1000;
 
-/// Whether the panel has a command at work: it shows so by its pointer, or the status of a printer
-/// is due.
-bool isWaitingForCommand(const QDeadlineTimer &patience)
+/// Whether the panel waits for something: for a command, which it shows by its pointer, for the
+/// status of a printer, or for the print server that it looks at.
+bool isWaiting(const QDeadlineTimer &patience)
 {
     if (QGuiApplication::overrideCursor())
         return !patience.hasExpired();
-    if (patience.remainingTime() < patienceMs - statusPatienceMs)
+    if (patience.remainingTime() < patienceMs - answerPatienceMs)
         return false;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (const QWidget *window : windows) {
+        if (window->property("looking").toBool())
+            return true;
         const auto notifiers = window->findChildren<QSocketNotifier *>();
         for (const QSocketNotifier *notifier : notifiers)
             if (notifier->isEnabled())
@@ -117,7 +119,7 @@ void DriverServer::sendStateWhenIdle(int quietRounds, int roundsLeft,
     } else {
         QTimer::singleShot(roundMs(), this, [=] {
             // Events run between the keys of a step too.
-            const bool acting = m_actionLevel == loopLevel() || isWaitingForCommand(patience);
+            const bool acting = m_actionLevel == loopLevel() || isWaiting(patience);
             const bool busy = acting || QAbstractEventDispatcher::instance()->hasPendingEvents();
             sendStateWhenIdle(busy ? 0 : quietRounds + 1, acting ? roundsLeft : roundsLeft - 1,
                               patience);

@@ -97,7 +97,9 @@ void PrinterTab::createWidgets()
     layout->addWidget(scrollArea);
     PrintSystem state;
     const QList<PrintQueue> queues = printQueues(&state);
-    fillTable(queues, state);
+    showQueues(queues, state);
+    if (printerTable->rowCount() > 0)
+        printerTable->resizeColumnsToContents();
 }
 
 void PrinterTab::createTable()
@@ -115,6 +117,8 @@ void PrinterTab::createTable()
     for (int column = 0; column < ColumnCount; ++column)
         printerTable->setColumnWidth(column, emptyColumnWidth);
     connect(printerTable, &PrinterTable::lookAgain, this, &PrinterTab::reloadPrinterTable);
+    connect(printerTable, &PrinterTable::viewPainted, this, &PrinterTab::askForRowsInView,
+            Qt::QueuedConnection);
     connect(printerTable, &QTableWidget::currentCellChanged, this, &PrinterTab::changePrinter);
 }
 
@@ -125,36 +129,65 @@ void PrinterTab::setHeaders()
         printerTable->setHorizontalHeaderItem(column, new QTableWidgetItem(headers[column]));
 }
 
-void PrinterTab::fillTable(const QList<PrintQueue> &queues, PrintSystem state)
+void PrinterTab::showQueues(const QList<PrintQueue> &queues, PrintSystem state)
 {
-    knownPrinters.clear();
+    knownPrinters = namesOf(queues);
+    Rows rows;
     for (const PrintQueue &queue : queues) {
-        knownPrinters.insert(queue.name);
-        for (int rows = makerRowCount(queue.name); rows > 0; --rows)
-            addRow(queue);
+        for (int count = makerRowCount(queue); count > 0; --count)
+            rows.append({queue.name, queue.deviceUri});
     }
-    statusReader->startOver();
-    statusReader->ask(listedQueues());
-    if (printerTable->rowCount() > 0) {
-        printerTable->resizeColumnsToContents();
-        printerTable->resizeRowsToContents();
-    }
+    if (rows != listedRows())
+        fillTable(rows);
     explainEmptiness(state == PrintSystem::Answers);
     updateHint();
+    statusReader->startOver();
+    askAnew();
 }
 
-void PrinterTab::addRow(const PrintQueue &queue)
+void PrinterTab::fillTable(const Rows &rows)
 {
-    const int row = printerTable->rowCount();
-    printerTable->insertRow(row);
-    setCell(printerTable, row, NameColumn, queue.name);
-    setCell(printerTable, row, DestinationColumn, queue.deviceUri);
-    setCell(printerTable, row, StatusColumn, statuses.value(queue.name, tr("Asking...")));
+    // A queue with two rows keeps the one that was selected.
+    const QStringList listed = listedQueues();
+    const QString selected = listed.value(printerTable->currentRow());
+    const int which = printerTable->currentRow() - listed.indexOf(selected);
+
+    printerTable->setRowCount(0);
+    printerTable->setRowCount(rows.size());
+    for (int row = 0; row < rows.size(); ++row) {
+        setCell(printerTable, row, NameColumn, rows[row].first);
+        setCell(printerTable, row, DestinationColumn, rows[row].second);
+        setCell(printerTable, row, StatusColumn, statuses.value(rows[row].first, tr("Asking...")));
+    }
+    printerTable->resizeRowsToContents();
+    const int row = listedQueues().indexOf(selected);
+    if (selected.isEmpty() || row < 0)
+        printerTable->setCurrentCell(-1, -1);
+    else
+        printerTable->selectRow(row + which);
+}
+
+void PrinterTab::askAnew()
+{
+    upToDate.clear();
+    printerTable->viewport()->update();
+}
+
+void PrinterTab::askForRowsInView()
+{
+    QStringList queues;
+    const auto [first, last] = printerTable->rowsInView();
+    for (int row = first; row <= last; ++row) {
+        if (!upToDate.contains(queueInRow(row)))
+            queues.append(queueInRow(row));
+    }
+    statusReader->ask(queues);
 }
 
 void PrinterTab::showStatus(const QString &queue, const QString &status)
 {
     statuses.insert(queue, status);
+    upToDate.insert(queue);
     // The table may have other rows by now than when the queue was asked for.
     for (int row = 0; row < printerTable->rowCount(); ++row) {
         QTableWidgetItem *item = printerTable->item(row, StatusColumn);
@@ -182,6 +215,14 @@ void PrinterTab::updateHint()
     selectHint->setVisible(!currentStore && printerTable->rowCount() > 0);
 }
 
+PrinterTab::Rows PrinterTab::listedRows() const
+{
+    Rows rows;
+    for (int row = 0; row < printerTable->rowCount(); ++row)
+        rows.append({queueInRow(row), printerTable->item(row, DestinationColumn)->text()});
+    return rows;
+}
+
 QStringList PrinterTab::listedQueues() const
 {
     QStringList names;
@@ -197,27 +238,8 @@ void PrinterTab::reloadPrinterTable()
     if (state == PrintSystem::Silent)
         return; // what is known stays
     const QSignalBlocker silent(printerTable);
-    // A queue with two rows keeps the one that was selected.
-    const QStringList listed = listedQueues();
-    const QString selected = listed.value(printerTable->currentRow());
-    const int which = printerTable->currentRow() - listed.indexOf(selected);
-    int widths[ColumnCount];
-    for (int column = 0; column < ColumnCount; ++column)
-        widths[column] = printerTable->columnWidth(column);
     setBoundSignalsBlocked(true);
-
-    printerTable->clear();
-    printerTable->setRowCount(0);
-    setHeaders();
-    fillTable(queues, state);
-    for (int column = 0; column < ColumnCount; ++column)
-        printerTable->setColumnWidth(column, widths[column]);
-    const int row = listedQueues().indexOf(selected);
-    if (selected.isEmpty() || row < 0)
-        printerTable->setCurrentCell(-1, -1);
-    else
-        printerTable->selectRow(row + which);
-
+    showQueues(queues, state);
     setBoundSignalsBlocked(false);
 }
 
@@ -238,7 +260,7 @@ void PrinterTab::retranslate()
 {
     setHeaders();
     setTabName();
-    statusReader->ask(listedQueues());
+    askAnew();
     styleErrorLabel(rootWarning, 10); // the window has given the page its colours since it was made
     rootWarning->setText(tr("Root access is required to make changes to installable options"));
     installedHeader->setText(tr("Installed options"));
@@ -254,7 +276,9 @@ void PrinterTab::changePrinter(int row, int, int prev_row, int)
         return;
     const QString name = queueInRow(row);
     currentStore = nullptr;
-    if (queueNames().contains(name)) {
+    PrintSystem state;
+    const QSet<QString> names = queueNames(&state);
+    if (state == PrintSystem::Silent || names.contains(name)) {
         // Without a PPD that can be read there is no store, and the pages show nothing.
         if (std::unique_ptr<OptionStore> made = QueuePpd(name).makeStore()) {
             made->setPrinterName(name);

@@ -3,6 +3,10 @@
 #include "model/printerstatus.h"
 #include "pages/base/tab.h"
 
+#include <QList>
+#include <QPair>
+#include <QSet>
+
 #include <memory>
 
 class OptionStore;
@@ -20,7 +24,8 @@ enum class PrintSystem;
 /// until the click is over, the report of what was moved still points into it. A change of an
 /// installed option is no setting of the user: the page only reports it.
 ///
-/// The status of the queues comes in while the page shows; until then a row keeps its last one.
+/// The status of a queue is asked for when its row comes into view, and comes in while the page
+/// shows; until then the row keeps its last one.
 class PrinterTab : public Tab
 {
     Q_OBJECT
@@ -47,8 +52,8 @@ public:
     bool installedOptionsChanged() const { return installedChanged; }
     /// Takes what the page shows as what the PPD says.
     void recordInstalledValues();
-    /// Asks the print system for its queues anew. The same row number stays selected, and no
-    /// printer change comes of it.
+    /// Asks the print system for its queues anew, and lists them anew if they are others. The
+    /// selected queue stays selected, and no printer change comes of it.
     void reloadPrinterTable();
     /// Shows that no printer is selected.
     void clearPrinterSelection();
@@ -60,12 +65,19 @@ public slots:
 private:
     void createTable();
     void setHeaders();
-    void fillTable(const QList<PrintQueue> &queues, PrintSystem state);
-    void addRow(const PrintQueue &queue);
+    /// Name and destination of each.
+    using Rows = QList<QPair<QString, QString>>;
+
+    void showQueues(const QList<PrintQueue> &queues, PrintSystem state);
+    void fillTable(const Rows &rows);
+    /// Has the status of each queue asked for again once its row is in view.
+    void askAnew();
+    void askForRowsInView();
     void showStatus(const QString &queue, const QString &status);
     void explainEmptiness(bool answered);
     void updateHint();
     QStringList listedQueues() const;
+    Rows listedRows() const;
     void createInstalledOptions();
     void addInstalledOption(const bOption *option);
     void removeInstalledOptions();
@@ -81,6 +93,7 @@ private:
     bool installedChanged = false;
     PrinterStatusReader *statusReader;
     QHash<QString, QString> statuses;   ///< by queue, as they were told last
+    QSet<QString> upToDate;             ///< queues whose status is not to be asked for
     std::unique_ptr<OptionStore> store; ///< of the printer that was selected last
     std::unique_ptr<OptionStore> previousStore;
 };

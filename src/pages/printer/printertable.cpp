@@ -3,6 +3,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 PrinterTable::PrinterTable(int rows, int columns, QWidget *parent)
     : QTableWidget(rows, columns, parent)
     , explanation(new QLabel(viewport()))
@@ -26,6 +28,18 @@ void PrinterTable::explainEmptiness(const QString &text, const QString &link)
         line.arg(text.toHtmlEscaped()) +
         line.arg(QStringLiteral("<a href=\"#\">%1</a>").arg(link.toHtmlEscaped())));
     explanation->setVisible(!text.isEmpty());
+}
+
+std::pair<int, int> PrinterTable::rowsInView() const
+{
+    const int last = rowAt(viewport()->height() - 1);
+    return {std::max(0, rowAt(0)), last < 0 ? rowCount() - 1 : last};
+}
+
+void PrinterTable::paintEvent(QPaintEvent *event)
+{
+    QTableWidget::paintEvent(event);
+    emit viewPainted();
 }
 
 void PrinterTable::focusInEvent(QFocusEvent *event)

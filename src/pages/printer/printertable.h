@@ -2,6 +2,8 @@
 
 #include <QTableWidget>
 
+#include <utility>
+
 class QLabel;
 
 /// A table in which only a click or a key makes a row current: Qt's tables choose the first row
@@ -19,10 +21,17 @@ public:
     /// \param link a further line, which lookAgain() tells of when it is followed
     void explainEmptiness(const QString &text, const QString &link);
 
+    /// The first and the last row of which something shows, or would if the table did; the last
+    /// is -1 if there are none.
+    std::pair<int, int> rowsInView() const;
+
 signals:
     void lookAgain();
+    /// Other rows may be in view than before.
+    void viewPainted();
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
