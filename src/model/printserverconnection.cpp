@@ -4,8 +4,12 @@
 #include <cups/ppd.h>
 
 #include <atomic>
+#include <cerrno>
 #include <chrono>
 #include <cstring>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 namespace {
 
@@ -18,6 +22,25 @@ qint64 now()
 {
     using namespace std::chrono;
     return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+/// Enough clients that wait for a hung scheduler, and its socket takes no more: libcups tells that
+/// like a refusal.
+bool isCrowded(const char *server)
+{
+    sockaddr_un address{};
+    const std::size_t length = std::strlen(server);
+    if (server[0] != '/' || length >= sizeof address.sun_path)
+        return false;
+    address.sun_family = AF_UNIX;
+    std::memcpy(address.sun_path, server, length);
+    const int probe = socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    const bool isConnected =
+        ::connect(probe, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
+    const bool hasToWait = !isConnected && errno == EAGAIN;
+    if (probe >= 0)
+        close(probe);
+    return hasToWait;
 }
 
 struct IppDeleter
@@ -88,7 +111,7 @@ bool PrintServerConnection::connect()
     http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
                              int(longestWait), nullptr));
     if (!http_) {
-        timedOut_ = now() - start_ >= longestWait;
+        timedOut_ = now() - start_ >= longestWait || isCrowded(cupsServer());
         return false;
     }
     httpSetTimeout(
@@ -116,8 +139,8 @@ bool PrintServerConnection::waitsOn()
     return !timedOut_;
 }
 
-QList<PrintQueue>
-PrintServerConnection::queues(std::initializer_list<const char *> attributes, PrintSystem *state)
+QList<PrintQueue> PrintServerConnection::queues(std::initializer_list<const char *> attributes,
+                                                PrintSystem *state)
 {
     // The scheduler may have gone, and come back, since the connection was used last.
     for (int attempt = 0; attempt < 2; ++attempt) {

@@ -69,8 +69,8 @@ bool mayBeMakers(const QByteArray &text)
     return false;
 }
 
-/// The full parse takes milliseconds, and on a server with a thousand queues most are of others, and
-/// many of the same model.
+/// The full parse takes milliseconds, and on a server with a thousand queues most are of others,
+/// and many of the same model.
 int rowCountOf(const QByteArray &path)
 {
     QFile file(QFile::decodeName(path));

@@ -38,6 +38,6 @@ private:
 };
 
 /// How many rows the queue has in the printer table: one for each filter line of the maker, none
-/// for a queue of other makers or without a usable PPD. The PPD is read anew only when the queue has
-/// been set up or changed since the last time.
+/// for a queue of other makers or without a usable PPD. The PPD is read anew only when the queue
+/// has been set up or changed since the last time.
 int makerRowCount(const PrintQueue &queue);

@@ -32,7 +32,8 @@ int loopLevel()
 
 // Longer than commands take that are well.
 constexpr int patienceMs = 3000;
-constexpr int answerPatienceMs = 1000;
+constexpr int statusPatienceMs = 1000;
+constexpr int lookPatienceMs = 500;
 
 /// Whether the panel waits for something: for a command, which it shows by its pointer, for the
 /// status of a printer, or for the print server that it looks at.
@@ -40,15 +41,14 @@ bool isWaiting(const QDeadlineTimer &patience)
 {
     if (QGuiApplication::overrideCursor())
         return !patience.hasExpired();
-    if (patience.remainingTime() < patienceMs - answerPatienceMs)
-        return false;
+    const qint64 waited = patienceMs - patience.remainingTime();
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (const QWidget *window : windows) {
-        if (window->property("looking").toBool())
+        if (waited < lookPatienceMs && window->property("looking").toBool())
             return true;
         const auto notifiers = window->findChildren<QSocketNotifier *>();
         for (const QSocketNotifier *notifier : notifiers)
-            if (notifier->isEnabled())
+            if (waited < statusPatienceMs && notifier->isEnabled())
                 return true;
     }
     return false;

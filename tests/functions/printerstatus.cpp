@@ -89,6 +89,7 @@ private slots:
     void manyQueues();
     void strangeAnswers();
     void answersBeforeStartOver();
+    void outOfView();
 };
 
 void TestPrinterStatus::manyQueues()
@@ -153,6 +154,24 @@ void TestPrinterStatus::answersBeforeStartOver()
     reader.ask({"P1"});
     QTest::qWait(600);
     QCOMPARE(heard, QStringList("new"));
+}
+
+// What is in view no more before its turn comes is left out.
+void TestPrinterStatus::outOfView()
+{
+    const FakeLpstat lpstat("echo >> calls; until [ -e go ]; do sleep 0.02; done\n");
+    QStringList queues;
+    for (int i = 0; i < 40; ++i)
+        queues.append(QStringLiteral("q%1").arg(i));
+    PrinterStatusReader reader;
+    reader.ask(queues);
+    reader.ask({"q20", "q30", "q0"});
+    QVERIFY(setFileText(lpstat.directory.filePath("go"), ""));
+    QSignalSpy told(&reader, &PrinterStatusReader::answered);
+    QTRY_COMPARE(told.size(), 10);
+    QTest::qWait(50);
+    QCOMPARE(told.size(), 10);
+    QCOMPARE(fileText(lpstat.directory.filePath("calls")).size(), 10);
 }
 
 static const FunctionTests::Entry<TestPrinterStatus> entry;
