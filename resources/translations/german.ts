@@ -625,7 +625,7 @@ Zum Beispiel: %1</translation>
     </message>
     <message>
         <source>Overwrite job name:</source>
-        <translation>Namen überschreiben:</translation>
+        <translation>Auftragsnamen überschreiben:</translation>
     </message>
     <message>
         <source>Application defined</source>

@@ -86,8 +86,10 @@ private:
     void createTabs();
     void createLayout();
     void styleTabs();
-    /// Where the screen is too low for the window, lets the pages scroll, so that the buttons below
-    /// them stay in sight.
+    /// In pixels; larger in larger type, as far as the screen has room.
+    QSize usualSize() const;
+    /// Where the screen is too low for the window, lets the pages scroll, so that the buttons
+    /// below them stay in sight.
     void fitToScreen();
     void enableTabs();
     void setButtonsEnabled(bool on);

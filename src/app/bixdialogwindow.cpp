@@ -25,6 +25,7 @@
 #include "widgets/focusring.h"
 #include "widgets/mnemonics.h"
 #include "widgets/noticeline.h"
+#include "widgets/panellook.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -59,6 +60,13 @@ constexpr char tabWidgetStyle[] =
     "QTabWidget::tab-bar {   left: -7px;   border: 0px;   padding: 0px;   margin: "
     "0px;}QTabWidget::pane{   position: absolute;   left: -7px; ;}";
 
+/// What a window can take of the screen.
+QSize screenRoom(const QStyle *style)
+{
+    const QSize frame(0, style->pixelMetric(QStyle::PM_TitleBarHeight));
+    return QApplication::primaryScreen()->availableGeometry().size() - frame;
+}
+
 void setBrush(QWidget *widget, QPalette::ColorRole role, const QBrush &brush)
 {
     QPalette palette = widget->palette();
@@ -80,7 +88,7 @@ BixDialog::BixDialog(QWidget *parent)
     else
         tellOfForeignDirectory();
 
-    setFixedSize(800, 735);
+    setFixedSize(usualSize());
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setBackground();
     createPages();
@@ -158,10 +166,20 @@ void BixDialog::askAboutCollection()
 
 // The parts of the window
 
+QSize BixDialog::usualSize() const
+{
+    const QSize size(800, 735);
+    return screenRoom(style()).expandedTo(size).boundedTo(size * PanelLook::typeFactor(font()));
+}
+
 void BixDialog::setBackground()
 {
-    // Through an icon, which finds the picture for the screen's scale factor.
-    setBrush(this, QPalette::Window, QIcon(QStringLiteral(":/icons/background")).pixmap(size()));
+    // Through an icon, which finds the picture for the screen's scale factor but never enlarges it.
+    QPixmap picture = QIcon(QStringLiteral(":/icons/background")).pixmap(size());
+    const double factor = picture.devicePixelRatioF();
+    picture = picture.scaled(size() * factor, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    picture.setDevicePixelRatio(factor);
+    setBrush(this, QPalette::Window, picture);
 }
 
 void BixDialog::createPages()
@@ -271,8 +289,7 @@ void BixDialog::createLayout()
 
 void BixDialog::fitToScreen()
 {
-    const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    const int room = QApplication::primaryScreen()->availableGeometry().height() - frame;
+    const int room = screenRoom(style()).height();
     if (room >= height())
         return;
     layout()->activate();

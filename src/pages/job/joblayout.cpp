@@ -23,7 +23,7 @@ namespace {
 // In pixels.
 constexpr int inputWidth = 180;
 constexpr int gap = 6;
-constexpr int columnWidth = 292;
+constexpr int columnWidth = 291;
 constexpr int markWidth = 30;
 
 } // namespace
@@ -115,9 +115,18 @@ QGridLayout *JobTab::createNameGrid()
     grid->addWidget(name->picture, 1, 0, 2, 1, Qt::AlignVCenter);
     grid->addWidget(name->modeBox, 1, 1);
     grid->addWidget(name->edit, 2, 1);
-    grid->addWidget(name->overwriteLabel, 3, 1, 1, 5);
     // Below the picture there is room for texts that are too long for the second column.
     grid->addWidget(name->overwriteBox, 4, 0, 2, 2, Qt::AlignRight);
+    // Both are rich texts, which have no ellipsis.
+    const int overwriteWidth = name->overwriteLabel->sizeHint().width();
+    name->overwriteLabel->setWordWrap(overwriteWidth > columnWidth);
+    email->label->setWordWrap(email->label->sizeHint().width() + markWidth > columnWidth);
+    if (email->button->sizeHint().width() + overwriteWidth > columnWidth) {
+        name->overwriteLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        grid->addWidget(name->overwriteLabel, 3, 0, 1, 2);
+    } else {
+        grid->addWidget(name->overwriteLabel, 3, 1, 1, 5);
+    }
     Spoken::setName(name->edit, tr("Custom job name"));
     Spoken::setLabels(name->edit, {name->label});
     addLine(grid, 6, 7);
@@ -127,10 +136,6 @@ QGridLayout *JobTab::createNameGrid()
     grid->addWidget(email->edit, 9, 1);
     grid->addWidget(email->error, 10, 1);
     Spoken::setLabels(email->button, {email->label});
-    // Both are rich texts, which have no ellipsis.
-    name->overwriteLabel->setWordWrap(
-        email->button->sizeHint().width() + name->overwriteLabel->sizeHint().width() > columnWidth);
-    email->label->setWordWrap(email->label->sizeHint().width() + markWidth > columnWidth);
     grid->setColumnStretch(13, 1);
     grid->setRowStretch(14, 1);
     return grid;
