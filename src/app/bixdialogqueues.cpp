@@ -3,6 +3,7 @@
 #include "model/optionstore.h"
 #include "model/printqueues.h"
 #include "pages/printer/printertab.h"
+#include "profiles/profiledialog.h"
 #include "widgets/noticeline.h"
 
 #include <QApplication>
@@ -16,10 +17,12 @@ namespace {
 constexpr int retryAfter = 100; // ms
 
 /// The main loop runs within itself, say for a dialog of a page, or something is open or held that
-/// must not lose what it belongs to.
-bool isInTheMiddle()
+/// must not lose what it belongs to. Into the list of profiles such news may come: what it applies
+/// is a change of the options as any other.
+bool isInTheMiddle(const QWidget *profileList)
 {
-    return QThread::currentThread()->loopLevel() > 1 || QApplication::activeModalWidget() ||
+    const QWidget *modal = QApplication::activeModalWidget();
+    return QThread::currentThread()->loopLevel() > 1 || (modal && modal != profileList) ||
            QApplication::activePopupWidget() || QApplication::mouseButtons() != Qt::NoButton;
 }
 
@@ -31,7 +34,7 @@ void BixDialog::watchQueues()
     retry.setInterval(retryAfter);
     connect(&queueWatch, &QueueWatch::answered, this, &BixDialog::takeQueueNames);
     connect(&retry, &QTimer::timeout, this, [this] {
-        if (isInTheMiddle())
+        if (isInTheMiddle(profileDialog))
             retry.start();
         else
             queueWatch.look();
@@ -43,7 +46,7 @@ void BixDialog::takeQueueNames(PrintSystem state, const QSet<QString> &names)
     tellSilence(state);
     if (state == PrintSystem::Silent || names == knownPrinters)
         return;
-    if (isInTheMiddle())
+    if (isInTheMiddle(profileDialog))
         retry.start();
     else
         showOtherQueues();
