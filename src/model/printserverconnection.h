@@ -8,7 +8,8 @@
 #include <initializer_list>
 #include <memory>
 
-struct _http_s; // of libcups, which stays out of the headers that pages include
+// Of libcups, which stays out of the headers that pages include.
+struct _http_s; // NOLINT(bugprone-reserved-identifier)
 
 /// A connection to the scheduler that knows a limit of time, which that of libcups doesn't. It is
 /// made by the first question, and anew when the scheduler has gone and come back.

@@ -125,10 +125,10 @@ bool GroupBinding::enableButtons(BixButtonGroup *group, bOption *option)
     bool mustMove = false;
     for (int i = 0; i < group->buttonCount(); ++i) {
         const OptionChoice *choice = choiceAt(group, i, option);
+        const bool blocked = choice && choice->isBlocked();
+        group->setEnabledAt(i, choice && !blocked);
         if (!choice)
-            continue;
-        const bool blocked = choice->isBlocked();
-        group->setEnabledAt(i, !blocked);
+            continue; // the printer lacks what the button stands for
         if (blocked) {
             ++constrainedCount;
             mustMove = mustMove || choice == option->current();
