@@ -296,6 +296,7 @@ void BixDialog::fitToScreen()
     const int pageHeight = tabWidget->height();
     auto *area = new QScrollArea(this);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus); // or it gets the focus that a hidden page had
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setWidgetResizable(true);
     delete layout()->replaceWidget(tabWidget, area);

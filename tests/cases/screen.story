@@ -18,3 +18,10 @@ check chkButWatermark
 = BixTabWidget.y: -58
 press F6 F6 F6 Shift+Tab Shift+Tab Shift+Tab
 = @focus.accessibleName: butSaveCustomWatermark; BixTabWidget.y: -23
+
+== a click on the list leaves the focus on the page
+select Office
+tab Basic
+= @focus.accessibleName: cmbBxPageSize
+press F6
+= @focus.text: &Save As...
