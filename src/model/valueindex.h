@@ -27,13 +27,24 @@ public:
     OptionRef find(std::string_view option, std::string_view choice) const;
 
 private:
-    using Choices = std::pmr::unordered_map<std::string_view, OptionRef>;
+    /// With std::hash the GNU library compares all of a short map's names one by one, and each of
+    /// them stands elsewhere in the memory of the PPD.
+    struct Hash
+    {
+        size_t operator()(std::string_view name) const
+        {
+            return std::hash<std::string_view>()(name);
+        }
+    };
+    template <typename T>
+    using ByName = std::pmr::unordered_map<std::string_view, T, Hash>;
+    using Choices = ByName<OptionRef>;
 
     Choices &startOption(std::string_view keyword, int choiceCount);
     std::string_view keep(const QString &name);
 
     /// All of it goes at once, so nothing is freed piece by piece.
     std::pmr::monotonic_buffer_resource memory;
-    std::pmr::unordered_map<std::string_view, Choices> options{&memory};
+    ByName<Choices> options{&memory};
     std::vector<QByteArray> names; ///< those that no PPD holds
 };
