@@ -3,7 +3,21 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <iterator>
 #include <random>
+
+QString generatedOption(int option)
+{
+    const char *const usual[] = {"PageSize", "Duplex", "MediaType", "InputSlot", "OutputBin"};
+    if (option < int(std::size(usual)))
+        return QLatin1String(usual[option]);
+    return QStringLiteral("Bench%1").arg(option);
+}
+
+QString generatedChoice(int choice)
+{
+    return QStringLiteral("Value%1").arg(choice);
+}
 
 bool writeGeneratedPpd(const QString &path, const GeneratedPpd &measures)
 {
@@ -18,32 +32,15 @@ bool writeGeneratedPpd(const QString &path, const GeneratedPpd &measures)
            "*cupsFilter: \"application/vnd.cups-postscript 0 bixfilter_F\"\n"
            "*1284DeviceID: \"MFG:Brixola;MDL:Bench;\"\n";
 
-    const auto optionName = [](int option) {
-        switch (option) {
-        case 0:
-            return QStringLiteral("PageSize");
-        case 1:
-            return QStringLiteral("Duplex");
-        case 2:
-            return QStringLiteral("MediaType");
-        case 3:
-            return QStringLiteral("InputSlot");
-        case 4:
-            return QStringLiteral("OutputBin");
-        default:
-            return QStringLiteral("Bench%1").arg(option);
-        }
-    };
-    const auto choiceName = [](int choice) { return QStringLiteral("Value%1").arg(choice); };
-
     for (int option = 0; option < measures.options; ++option) {
-        const QString name = optionName(option);
+        const QString name = generatedOption(option);
         out << "*OpenUI *" << name << "/Option number " << option << ": PickOne\n"
             << "*OrderDependency: 10 AnySetup *" << name << "\n"
-            << "*Default" << name << ": " << choiceName(option % measures.choicesPerOption) << "\n";
+            << "*Default" << name << ": " << generatedChoice(option % measures.choicesPerOption)
+            << "\n";
         for (int choice = 0; choice < measures.choicesPerOption; ++choice)
-            out << "*" << name << " " << choiceName(choice) << "/Choice " << choice << ": \"<</B "
-                << choice << ">>setpagedevice\"\n";
+            out << "*" << name << " " << generatedChoice(choice) << "/Choice " << choice
+                << ": \"<</B " << choice << ">>setpagedevice\"\n";
         out << "*CloseUI: *" << name << "\n";
     }
 
@@ -51,10 +48,20 @@ bool writeGeneratedPpd(const QString &path, const GeneratedPpd &measures)
     for (int written = 0; written < measures.constraints; ++written) {
         const int first = int(random() % unsigned(measures.options));
         const int second = int(random() % unsigned(measures.options));
-        out << "*UIConstraints: *" << optionName(first) << " "
-            << choiceName(int(random() % unsigned(measures.choicesPerOption))) << " *"
-            << optionName(second == first ? (first + 1) % measures.options : second) << " "
-            << choiceName(int(random() % unsigned(measures.choicesPerOption))) << "\n";
+        out << "*UIConstraints: *" << generatedOption(first) << " "
+            << generatedChoice(int(random() % unsigned(measures.choicesPerOption))) << " *"
+            << generatedOption(second == first ? (first + 1) % measures.options : second) << " "
+            << generatedChoice(int(random() % unsigned(measures.choicesPerOption))) << "\n";
+    }
+    for (int written = 0; written < measures.threeWayRules; ++written) {
+        // Apart, so that none is named twice in a rule.
+        const int first = int(random() % unsigned(measures.options));
+        out << "*cupsUIConstraints: \"";
+        for (int condition = 0; condition < 3; ++condition)
+            out << (condition > 0 ? " *" : "*")
+                << generatedOption((first + condition * measures.options / 3) % measures.options)
+                << " " << generatedChoice(int(random() % unsigned(measures.choicesPerOption)));
+        out << "\"\n";
     }
     // Of options without ranks the first value alone blocks the second, and few targets get all of
     // the blocks: so selecting the value is as much work as can be.
@@ -63,7 +70,7 @@ bool writeGeneratedPpd(const QString &path, const GeneratedPpd &measures)
         const int third = rule / targets;
         out << "*cupsUIConstraints: \"*Bench5 Value0 *Bench" << 6 + rule % targets
             << " Value0 *Bench" << 6 + targets + third / measures.choicesPerOption << " "
-            << choiceName(third % measures.choicesPerOption) << "\"\n";
+            << generatedChoice(third % measures.choicesPerOption) << "\"\n";
     }
     out.flush();
     return file.error() == QFile::NoError && out.status() == QTextStream::Ok;

@@ -1,0 +1,48 @@
+#include "benchpanel.h"
+#include "measures.h"
+#include "model/boption.h"
+#include "model/optionstore.h"
+#include "ratiotable.h"
+#include "usage.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QPushButton>
+
+#include <cstdio>
+
+bool measureApply(RatioTable *table)
+{
+    DialogCloser closer;
+    BenchPanel panel;
+    auto *apply = panel.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Apply);
+    std::vector<double> walls;
+    std::vector<double> cpus;
+    std::vector<double> commandWalls;
+    std::vector<double> commandCpus;
+    for (int round = 0; round < 15; ++round) {
+        const int closed = closer.closed;
+        const Usage before = usageNow();
+        apply->click();
+        if (closer.closed != closed + 1) {
+            std::fprintf(stderr, "Apply says nothing\n");
+            return false;
+        }
+        walls.push_back(closer.wallAtLast - before.wall);
+        cpus.push_back(closer.cpuAtLast - before.own);
+        panel.painted(0);
+        QStringList lpoptions = {"lpoptions", "-p", currentStore->printerName()};
+        const QList<bOption *> options = currentStore->optionList();
+        for (const bOption *option : options)
+            lpoptions << "-o" << option->key() + '=' + option->currentKey();
+        const Usage commands =
+            usageOfProgram(lpoptions) + usageOfProgram({"find", QDir::homePath()});
+        commandWalls.push_back(commands.wall);
+        commandCpus.push_back(commands.children);
+    }
+    const QString name = QStringLiteral("Apply's own part / lpoptions + find");
+    const double commands = median(commandWalls);
+    table->add(RatioTable::Figure::Clock, name, (median(walls) - commands) / commands, 0.25);
+    table->add(RatioTable::Figure::Cpu, name + ", CPU", median(cpus) / median(commandCpus), 0.25);
+    return true;
+}
