@@ -5,6 +5,7 @@
 #include "pages/base/paneldialog.h"
 #include "privileged/ppdwriter.h"
 #include "widgets/comboboxex.h"
+#include "widgets/mnemonics.h"
 #include "widgets/spoken.h"
 
 #include <QGridLayout>
@@ -63,6 +64,9 @@ void PasswordPrompt::createLayout()
     auto *okButton = new QPushButton(tr("OK"), this);
     okButton->setAccessibleName(QStringLiteral("butOk"));
     connect(okButton, &QPushButton::clicked, this, &PasswordPrompt::okButtonSlot);
+    Mnemonics::give({okButton});
+    setTabOrder(methodCombo, passwordEdit);
+    setTabOrder(passwordEdit, okButton);
 
     auto *grid = new QGridLayout(this);
     grid->setSizeConstraint(QLayout::SetFixedSize);

@@ -4,6 +4,7 @@
 #include "pages/base/reasontip.h"
 #include "profiles/profilerules.h"
 #include "profiles/profilestore.h"
+#include "widgets/mnemonics.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -34,6 +35,8 @@ ProfileFormDialog::ProfileFormDialog(const QString &descriptionLabel, QWidget *p
     descriptionEdit->setMaximumSize(largestDescription);
     descriptionEdit->setTabChangesFocus(true);
     buttonBox->button(QDialogButtonBox::Ok)->setEnabled(false);
+    Mnemonics::give(
+        {buttonBox->button(QDialogButtonBox::Ok), buttonBox->button(QDialogButtonBox::Cancel)});
     createLayout(descriptionLabel);
 
     connect(buttonBox, &QDialogButtonBox::rejected, this, &ProfileFormDialog::close);

@@ -2,10 +2,13 @@
 
 #include "pages/base/onelinevalidator.h"
 #include "pages/base/pagewidgets.h"
+#include "widgets/mnemonics.h"
+#include "widgets/panellook.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 using PageWidgets::named;
@@ -34,7 +37,9 @@ AccountEditDialog::AccountEditDialog(QWidget *list)
     layout->addWidget(new QLabel(tr("Description:"), this));
     layout->addWidget(descriptionEdit);
     layout->addWidget(buttonBox);
-    setFixedSize(300, 165);
+    Mnemonics::give(
+        {buttonBox->button(QDialogButtonBox::Ok), buttonBox->button(QDialogButtonBox::Cancel)});
+    setFixedSize(QSize(300, 165) * PanelLook::typeFactor(font()));
 }
 
 void AccountEditDialog::showNew()

@@ -4,6 +4,8 @@
 #include "pages/base/reasontip.h"
 #include "pages/job/accounteditdialog.h"
 #include "pages/job/jobaccounting.h"
+#include "widgets/mnemonics.h"
+#include "widgets/panellook.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -17,7 +19,7 @@ using PageWidgets::named;
 
 namespace {
 
-// In pixels.
+// In pixels, for type of the usual size.
 constexpr int idWidth = 143;
 constexpr int descriptionWidth = 142;
 
@@ -39,17 +41,17 @@ AccountListDialog::AccountListDialog(QWidget *page)
     createTable();
     createLayout();
     createConnections();
-    // In type of the ordinary size; larger type needs more.
-    setFixedSize(minimumSizeHint().expandedTo(QSize(400, 200)));
+    setFixedSize(minimumSizeHint().expandedTo(QSize(400, 200) * PanelLook::typeFactor(font())));
 }
 
 void AccountListDialog::createTable()
 {
     table->setColumnCount(ColumnCount);
     table->setHorizontalHeaderLabels({tr("Account ID"), tr("Description")});
-    table->setColumnWidth(IdColumn, idWidth);
-    table->setColumnWidth(DescriptionColumn, descriptionWidth);
-    table->setMinimumWidth(idWidth + descriptionWidth + 2 * table->frameWidth());
+    const double factor = PanelLook::typeFactor(font());
+    table->setColumnWidth(IdColumn, qRound(idWidth * factor));
+    table->setColumnWidth(DescriptionColumn, qRound(descriptionWidth * factor));
+    table->setMinimumWidth(qRound((idWidth + descriptionWidth) * factor) + 2 * table->frameWidth());
     table->verticalHeader()->hide();
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
     table->horizontalHeader()->setStretchLastSection(true);
@@ -73,6 +75,9 @@ void AccountListDialog::createLayout()
     grid->addWidget(deleteButton, 2, 2);
     grid->addWidget(buttonBox, 4, 1, 1, 2);
     grid->setRowStretch(4, 1);
+    Mnemonics::give({buttonBox->button(QDialogButtonBox::Ok),
+                     buttonBox->button(QDialogButtonBox::Cancel), newButton, editButton,
+                     deleteButton});
 }
 
 void AccountListDialog::createConnections()
@@ -116,6 +121,8 @@ void AccountListDialog::loadCustomIDTable()
     }
     table->setSortingEnabled(true);
     table->sortByColumn(sortColumn, sortOrder);
+    // Or the focus would make the first row the current one, unseen, and Down pass it over.
+    table->setCurrentIndex(QModelIndex());
 }
 
 QString AccountListDialog::highlightedText(Column column) const
