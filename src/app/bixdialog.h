@@ -50,8 +50,8 @@ public:
     void endMoves() override;
     void recordInstalledValues() override;
     void showApplied() override;
-    /// Whether a look at the queues is under way that a pass has asked for.
-    bool isLooking() const { return queueWatch.isLooking(); }
+    /// Whether a look at the queues is under way, or due at once, that a pass has asked for.
+    bool isLooking() const;
 
 public slots:
     void writeTolpoptions() override;

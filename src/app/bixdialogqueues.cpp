@@ -41,6 +41,11 @@ void BixDialog::watchQueues()
     });
 }
 
+bool BixDialog::isLooking() const
+{
+    return queueWatch.isLooking() || (retry.isActive() && !isInTheMiddle(profileDialog));
+}
+
 void BixDialog::takeQueueNames(PrintSystem state, const QSet<QString> &names)
 {
     tellSilence(state);

@@ -36,7 +36,6 @@ press Return
 press A Return
 > a.cfg: new
 press Alt+A
-await message
 > message: Settings applied.; title: Success
 > saved and published: Duplex=DuplexNoTumble PageRegion=A3 PageSize=A3 Scnt=Each Stpl=Rear
 > Office.cfg: ImageableArea=A3 MediaSize=A3 PaperDimension=A3 cStpl=True

@@ -4,6 +4,7 @@
 #include "widgetfinder.h"
 #include "windowstate.h"
 
+#include <QAbstractButton>
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCursor>
@@ -36,7 +37,8 @@ constexpr int statusPatienceMs = 1000;
 constexpr int lookPatienceMs = 500;
 
 /// Whether the panel waits for something: for a command, which it shows by its pointer, for the
-/// status of a printer, or for the print server that it looks at.
+/// status of a printer, for the print server that it looks at, or for a button that a letter has
+/// pressed and that goes up by itself.
 bool isWaiting(const QDeadlineTimer &patience)
 {
     if (QGuiApplication::overrideCursor())
@@ -46,6 +48,10 @@ bool isWaiting(const QDeadlineTimer &patience)
     for (const QWidget *window : windows) {
         if (waited < lookPatienceMs && window->property("looking").toBool())
             return true;
+        const auto buttons = window->findChildren<QAbstractButton *>();
+        for (const QAbstractButton *button : buttons)
+            if (waited < lookPatienceMs && button->isDown())
+                return true;
         const auto notifiers = window->findChildren<QSocketNotifier *>();
         for (const QSocketNotifier *notifier : notifiers)
             if (waited < statusPatienceMs && notifier->isEnabled())
