@@ -3,6 +3,7 @@
 #include "app/licensedialog.h"
 #include "app/telemetrydialog.h"
 #include "app/version.h"
+#include "widgets/mnemonics.h"
 #include "widgets/spoken.h"
 
 #include <QDialogButtonBox>
@@ -88,4 +89,5 @@ void AboutDialog::createButtons()
     connect(collection, &QPushButton::clicked, telemetryDialog, &TelemetryDialog::exec);
     connect(notices, &QPushButton::clicked, licenseDialog, &LicenseDialog::exec);
     connect(closing, &QPushButton::clicked, this, &AboutDialog::close);
+    Mnemonics::give({closing, collection, notices});
 }

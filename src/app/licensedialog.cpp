@@ -1,5 +1,7 @@
 #include "app/licensedialog.h"
 
+#include "widgets/mnemonics.h"
+
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QTextEdit>
@@ -20,6 +22,7 @@ LicenseDialog::LicenseDialog(QWidget *parent)
 
     auto *buttonBox = new QDialogButtonBox(QDialogButtonBox::Ok, this);
     connect(buttonBox, &QDialogButtonBox::accepted, this, &LicenseDialog::accept);
+    Mnemonics::give(buttonBox->buttons());
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(notices);

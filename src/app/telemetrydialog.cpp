@@ -2,6 +2,7 @@
 
 #include "storage/ownfile.h"
 #include "storage/settingsfile.h"
+#include "widgets/mnemonics.h"
 
 #include <QDialogButtonBox>
 #include <QFile>
@@ -76,6 +77,7 @@ TelemetryDialog::TelemetryDialog(QWidget *parent)
     auto *buttonBox = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttonBox, &QDialogButtonBox::accepted, this, &TelemetryDialog::accept);
     connect(buttonBox, &QDialogButtonBox::rejected, this, &TelemetryDialog::reject);
+    Mnemonics::give(buttonBox->buttons() + QList<QAbstractButton *>{yesButton, noButton});
 
     auto *layout = new QVBoxLayout(this);
     for (QWidget *widget : std::initializer_list<QWidget *>{request, promiseLabel, policyLabel,

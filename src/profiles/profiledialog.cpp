@@ -8,6 +8,7 @@
 #include "profiles/profilesavedialog.h"
 #include "profiles/profilestore.h"
 #include "storage/settingsfile.h"
+#include "widgets/mnemonics.h"
 #include "widgets/spoken.h"
 
 #include <QDialogButtonBox>
@@ -101,6 +102,8 @@ void ProfileDialog::createButtons()
     buttonBox->addButton(tr("OK"), QDialogButtonBox::AcceptRole);
     buttonBox->addButton(tr("Close"), QDialogButtonBox::RejectRole);
     buttonBox->addButton(applyButton, QDialogButtonBox::ApplyRole);
+    Mnemonics::give(buttonBox->buttons() +
+                    QList<QAbstractButton *>{saveButton, editButton, deleteButton});
 }
 
 void ProfileDialog::createLayout()

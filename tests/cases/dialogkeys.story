@@ -5,21 +5,19 @@ saved Mine [Profile]
 == profiles
 select Office
 press Alt+P
-await
 > title: Profiles
 = @focus.accessibleName: Profiles
 press Tab
 = @focus.accessibleName: Detail
 press Tab
-= @focus.text: Save...
+= @focus.text: &Save...
 press Shift+Tab Shift+Tab Down
 > Detail loses Basic|Print size: A4|Media type: Plain paper|Source: Automatic|Destination: Automatic|Collate: On|Duplex: Off|Layout|Booklet: Off|Finishing|Separation: Off|Folding mode: Off|Folding side: Off|Folding direction: Off|Folding method: Off|Staple: Off|Staple method: Off|Punch: Off|Rotate: Off|Imaging|Trapping: Off|Gloss mode: Off|CIE optimization: Off|Halftone screen: Automatic|Resolution: 600 dpi|LeanPrint: Off|HSL/Color Balance: Off|Color adjustment: Off|Monochrome adjustment: Off|Color mode: Full color|Color reproduction: Automatic|Color conversion: Printer colors|VRS: Off|Print grays with black toner: Off|Job|Job settings: None|Job accounting: Off|User login: Off|Watermark|Watermark: Off|Text: CONFIDENTIAL
 > Profiles: "Mine"
 press Tab Tab Tab
-= @focus.text: Edit...
+= @focus.text: &Edit...
 press Return
 > title: Edit Profile
-await
 = @focus.text: Mine
 press Escape
 press Escape
@@ -27,7 +25,6 @@ press Escape
 == a new profile
 select Office
 press Alt+S
-await
 > title: Save Profile
 press M y
 > Ok of Save Profile: OK
@@ -45,11 +42,14 @@ press Shift+Tab Shift+Tab Shift+Tab Shift+Tab Shift+Tab
 = @focus.text: Settings...
 press Return
 > title: Adjustment Settings
-await
-= @focus.text: Custom
+= @focus.text: C&ustom
 press Tab
-= @focus.text: OK
-press Escape
+= @focus.text: &OK
+press Alt+U
+> Contrast: "0"; Contrast': 0; Lightness: "0"; Lightness': 0; Master: "0"; Master': 0; Saturation: "0"
+> Saturation': 0
+press Alt+U Tab Return
+= title: Brixola Press Desk - Office
 
 == about
 start
@@ -57,33 +57,38 @@ press F6 F6 Tab
 = @focus.accessibleName: About
 press Return
 > title: About
-await
-= @focus.text: Close
+= @focus.text: &Close
 press Tab
-= @focus.text: Data collection...
+= @focus.text: &Data collection...
+press Alt+L
+> title: Legal Notices
+press Escape
+press Alt+D
+> title: Data Collection
+press Alt+N
+press Alt+O
+= title: About
 press Escape
 
 == another name for a profile
 select Office
 press Alt+P
-await
 > title: Profiles
-press Down Tab Tab Tab Return
+press Down Alt+E
 > Detail loses Basic|Print size: A4|Media type: Plain paper|Source: Automatic|Destination: Automatic|Collate: On|Duplex: Off|Layout|Booklet: Off|Finishing|Separation: Off|Folding mode: Off|Folding side: Off|Folding direction: Off|Folding method: Off|Staple: Off|Staple method: Off|Punch: Off|Rotate: Off|Imaging|Trapping: Off|Gloss mode: Off|CIE optimization: Off|Halftone screen: Automatic|Resolution: 600 dpi|LeanPrint: Off|HSL/Color Balance: Off|Color adjustment: Off|Monochrome adjustment: Off|Color mode: Full color|Color reproduction: Automatic|Color conversion: Printer colors|VRS: Off|Print grays with black toner: Off|Job|Job settings: None|Job accounting: Off|User login: Off|Watermark|Watermark: Off|Text: CONFIDENTIAL
 > Profiles: "Mine"; title: Edit Profile
 press Tab Tab Tab
 = @focus.text: &Cancel
 press Return
-press Return
+press Alt+E
 press End 2 Tab N e w Return t e x t
 = @focus.plainText: new text
 press Tab
 = @focus.text: &OK
 press Return
 > Profiles: "Mine2"; Profiles gains Mine2; Profiles loses Mine; Mine2.cfg: new; Mine.cfg: gone
+# In the list it is OK.
 press Return
-press Escape
-press Escape
 = title: Brixola Press Desk - Office
 
 == account IDs, and one of them
@@ -129,7 +134,6 @@ press Return
 press Shift+Tab Shift+Tab Down
 > tblCustomAccountID: "42 a"; not grey: butDeleteCustomAccountID, butEditCustomAccountID
 press Alt+D
-await
 > tblCustomAccountID: no row; tblCustomAccountID loses 42 a
 > grey: butDeleteCustomAccountID, butEditCustomAccountID
 press Escape
@@ -152,7 +156,6 @@ choose cmbBxOption17 #0
 > cmbBxOutputBin blocks Finisher tray; grey: chkButBiFld, chkButPnch, chkButStpl, chkButTriFld, chkBxOption22
 > not hidden: lblRootWarning
 press Alt+A
-await
 > title: Password Prompt
 press Tab
 = @focus.text: &OK
@@ -170,6 +173,5 @@ press Return
 = title: Brixola Press Desk - Office
 click Apply
 press Alt+O
-await
 > message: The program bixPPDWrite_F is missing. An administrator has to install it in a folder of root's search path, such as /usr/sbin.
 press Return

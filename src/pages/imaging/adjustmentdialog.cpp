@@ -136,7 +136,7 @@ void adjustmentDialog::enableForms()
          {static_cast<QWidget *>(hslButton), static_cast<QWidget *>(balanceButton),
           static_cast<QWidget *>(hueGroup), static_cast<QWidget *>(levelGroup)})
         widget->setEnabled(customBox->isChecked());
-    ReasonTip::setIfGreyBelow(this, Reasons::switchOnFirst(customBox->text()));
+    ReasonTip::setIfGreyBelow(this, Reasons::switchOnFirst(tr("Custom")));
 }
 
 void adjustmentDialog::checkAdjustmentSettings()

@@ -3,6 +3,7 @@
 #include "pages/imaging/adjustmentrows.h"
 #include "pages/imaging/adjustmentwidgets.h"
 #include "widgets/comboboxex.h"
+#include "widgets/mnemonics.h"
 #include "widgets/spoken.h"
 
 #include <QCheckBox>
@@ -75,6 +76,8 @@ void adjustmentDialog::createLayout()
     connect(ok, &QPushButton::clicked, this, &adjustmentDialog::close);
     connect(buttons->button(QDialogButtonBox::Cancel), &QPushButton::clicked, this,
             &adjustmentDialog::close);
+    // The texts of the other two are the printer's.
+    Mnemonics::give(buttons->buttons() + QList<QAbstractButton *>{customBox});
 
     auto *grid = new QGridLayout(this);
     grid->setSizeConstraint(QLayout::SetFixedSize);

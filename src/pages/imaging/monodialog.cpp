@@ -5,6 +5,7 @@
 #include "pages/base/reasons.h"
 #include "pages/base/reasontip.h"
 #include "storage/settingsfile.h"
+#include "widgets/mnemonics.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -56,6 +57,7 @@ void monoDialog::createLayout()
     connect(ok, &QPushButton::clicked, this, &monoDialog::close);
     connect(buttons->button(QDialogButtonBox::Cancel), &QPushButton::clicked, this,
             &monoDialog::close);
+    Mnemonics::give(buttons->buttons() + QList<QAbstractButton *>{customBox});
 
     auto *grid = new QGridLayout(this);
     grid->setSizeConstraint(QLayout::SetFixedSize);
@@ -97,7 +99,7 @@ void monoDialog::toggleAdjustment(bool enabled)
           static_cast<QWidget *>(brightness.edit), static_cast<QWidget *>(contrast.edit),
           static_cast<QWidget *>(brightness.slider), static_cast<QWidget *>(contrast.slider)})
         widget->setEnabled(enabled);
-    ReasonTip::setIfGreyBelow(this, Reasons::switchOnFirst(customBox->text()));
+    ReasonTip::setIfGreyBelow(this, Reasons::switchOnFirst(tr("Custom")));
     if (enabled)
         return;
     for (const AdjustmentWidgets::Row &row : {brightness, contrast}) {

@@ -31,12 +31,15 @@ AccountEditDialog::AccountEditDialog(QWidget *list)
     idEdit->setValidator(new OneLineValidator(QStringLiteral("[0-9]*"), idEdit));
     descriptionEdit->setValidator(new OneLineValidator(QStringLiteral(".{,31}"), descriptionEdit));
 
+    auto *idLabel = new QLabel(tr("Account ID:"), this);
+    idLabel->setBuddy(idEdit); // names it for screen readers
+    auto *descriptionLabel = new QLabel(tr("Description:"), this);
+    descriptionLabel->setBuddy(descriptionEdit);
+
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(new QLabel(tr("Account ID:"), this));
-    layout->addWidget(idEdit);
-    layout->addWidget(new QLabel(tr("Description:"), this));
-    layout->addWidget(descriptionEdit);
-    layout->addWidget(buttonBox);
+    for (QWidget *widget : std::initializer_list<QWidget *>{idLabel, idEdit, descriptionLabel,
+                                                            descriptionEdit, buttonBox})
+        layout->addWidget(widget);
     Mnemonics::give(
         {buttonBox->button(QDialogButtonBox::Ok), buttonBox->button(QDialogButtonBox::Cancel)});
     setFixedSize(QSize(300, 165) * PanelLook::typeFactor(font()));
