@@ -11,7 +11,7 @@ packages=(
     # certificates for a server, and one font, so that measured text widths are the same everywhere
     cups-daemon cups-client bubblewrap xvfb sudo openssl fonts-dejavu-core
     # benchmarks and checks
-    libbenchmark-dev clang-format clang-tidy python3
+    libbenchmark-dev clang-format clang-tidy clang libclang-rt-dev python3
     lintian desktop-file-utils appstream man-db
 )
 # Command and package of what may well come from elsewhere than a package.
