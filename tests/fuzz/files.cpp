@@ -31,7 +31,8 @@ Settings entries(const QString &text)
     const QStringList lines = text.split(QLatin1Char('\n'));
     for (const QString &line : lines) {
         const int equals = line.indexOf(QLatin1Char('='));
-        if (equals >= 0 && line.size() <= longestEntry && !line.contains(QLatin1Char('\r')))
+        if (equals >= 0 && line.size() <= longestEntry && !line.contains(QLatin1Char('\r')) &&
+            !line.startsWith(QChar(QChar::ByteOrderMark))) // which Qt drops where a text begins
             found.insert(line.left(equals), line.mid(equals + 1));
     }
     return found;

@@ -108,6 +108,8 @@ void Fuzz::secret(const QByteArray &input)
              "the text that was encrypted, in either case of the digits");
 
     const QString secret = QString::fromUtf8(plain);
+    if (secret.startsWith(QChar(QChar::ByteOrderMark)))
+        return; // which Qt drops where a text begins
     const QString back = SecretSetting::decrypted(SecretSetting::encrypted(secret));
     mustHold(SecretSetting::withSingleBackslashes(back) == secret, "the secret that was stored");
 }
