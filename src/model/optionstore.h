@@ -49,7 +49,8 @@ public:
     void addGroupConstraint(const QList<QPair<QString, QString>> &values);
     /// The same for values that are found already. Without effect if one of them is null.
     static void addGroupConstraint(const OptionRefList &values);
-    /// Withdraws all blocks. The selection stays, and acts again as each option is set anew.
+    /// Withdraws all blocks but those that a value has posted on itself, by a three-way rule that
+    /// names no other. The selection stays, and acts again as each option is set anew.
     void releaseAllConstraints();
 
     /// The printer's hardware options, in the order in which they are shown.
