@@ -76,6 +76,11 @@ int main(int argc, char *argv[])
     image.fill(Qt::transparent);
     for (int i = 3; i < argc - 1; ++i)
         drawLayer(QFile::decodeName(argv[i]), &image);
+    // The panel reads the large ones at its start, sooner without an alpha channel that says
+    // nothing.
+    const QImage opaque = image.convertToFormat(QImage::Format_RGB32);
+    if (opaque.convertToFormat(image.format()) == image)
+        image = opaque;
 
     const QString output = QFile::decodeName(argv[argc - 1]);
     if (!image.save(output, "PNG"))

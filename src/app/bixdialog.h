@@ -46,6 +46,7 @@ public:
     explicit BixDialog(QWidget *parent = nullptr);
     ~BixDialog() override;
 
+    QWidget *pageParent() override;
     void beginMoves() override;
     void endMoves() override;
     void recordInstalledValues() override;

@@ -23,6 +23,7 @@
 #include "storage/settingsfile.h"
 #include "widgets/bixtabwidget.h"
 #include "widgets/focusring.h"
+#include "widgets/icons.h"
 #include "widgets/mnemonics.h"
 #include "widgets/noticeline.h"
 #include "widgets/panellook.h"
@@ -37,6 +38,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <QTableWidget>
 
@@ -91,6 +93,8 @@ BixDialog::BixDialog(QWidget *parent)
     setFixedSize(usualSize());
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setBackground();
+    // Before there are children, each of which would be told, and look for its rules anew.
+    setStyleSheet(QStringLiteral("ComboBoxEx { padding-left: 4px } "));
     createPages();
     collector = std::make_unique<SettingsCollector>(pages);
     publication = std::make_unique<Publication>();
@@ -182,8 +186,17 @@ void BixDialog::setBackground()
     setBrush(this, QPalette::Window, picture);
 }
 
+QWidget *BixDialog::pageParent()
+{
+    return tabWidget->findChild<QStackedWidget *>();
+}
+
 void BixDialog::createPages()
 {
+    tabWidget = new BixTabWidget(this);
+    tabWidget->setTabPosition(QTabWidget::West);
+    tabWidget->setIconSize(QSize(30, 30));
+
     // In tab order.
     pages.append(printerTab = new PrinterTab(this));
     pages.append(generalTab = new GeneralTab(this));
@@ -227,14 +240,13 @@ void BixDialog::createButtons()
 
     logoButton = new QPushButton(this);
     logoButton->setAccessibleName(tr("About"));
-    logoButton->setIcon(QIcon(QStringLiteral(":/icons/logo")));
+    logoButton->setIcon(Icons::icon(QStringLiteral(":/icons/logo")));
     logoButton->setIconSize(QSize(170, 32));
     // The style moves the picture to the left by half of its padding; from this width on it is
     // whole.
     logoButton->setMinimumWidth(320);
     logoButton->setStyleSheet(QStringLiteral("padding-left: -150px; border: none; outline: none;"));
     connect(logoButton, &QPushButton::clicked, aboutDialog, &AboutDialog::exec);
-    setStyleSheet(QStringLiteral("ComboBoxEx { padding-left: 4px } "));
 
     for (QPushButton *button : {saveAsButton, profilesButton, logoButton}) {
         button->setFocusPolicy(Qt::NoFocus);
@@ -256,9 +268,6 @@ void BixDialog::createProfileDialogs()
 
 void BixDialog::createTabs()
 {
-    tabWidget = new BixTabWidget(this);
-    tabWidget->setTabPosition(QTabWidget::West);
-    tabWidget->setIconSize(QSize(30, 30));
     for (Tab *page : qAsConst(pages))
         tabWidget->addTab(page, page->tabIcon(), page->tabName());
     enableTabs();

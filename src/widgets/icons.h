@@ -2,7 +2,7 @@
 
 #include <QIcon>
 
-/// The panel's own pictures, read and decoded once for each scale factor.
+/// The panel's own pictures, each read and decoded once, as late as it can be.
 namespace Icons {
 
 /// The icon of a path such as ":/icons/error"; without a picture if there is none by that name.

@@ -153,6 +153,15 @@ void PanelLook::drawControl(ControlElement element, const QStyleOption *option, 
     painter->fillRect(line.translated(step), frame->palette.light());
 }
 
+QIcon PanelLook::standardIcon(StandardPixmap kind, const QStyleOption *option,
+                              const QWidget *widget) const
+{
+    auto known = icons.constFind(kind);
+    if (known == icons.constEnd())
+        known = icons.insert(kind, QProxyStyle::standardIcon(kind, option, widget));
+    return *known;
+}
+
 void PanelLook::drawItemText(QPainter *painter, const QRect &rect, int flags,
                              const QPalette &palette, bool enabled, const QString &text,
                              QPalette::ColorRole textRole) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QHash>
+#include <QIcon>
 #include <QProxyStyle>
 
 /// How the whole program looks, on every desktop: Qt's Fusion style in light colours, since the
@@ -26,6 +28,9 @@ public:
     /// Draws dividing lines so that they show at every scale factor.
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget = nullptr) const override;
+    /// The icons of dialogs' buttons, read once for all dialogs.
+    QIcon standardIcon(StandardPixmap kind, const QStyleOption *option = nullptr,
+                       const QWidget *widget = nullptr) const override;
     void drawItemText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette,
                       bool enabled, const QString &text,
                       QPalette::ColorRole textRole = QPalette::NoRole) const override;
@@ -36,4 +41,6 @@ protected:
 
 private:
     PanelLook();
+
+    mutable QHash<int, QIcon> icons;
 };

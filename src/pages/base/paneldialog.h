@@ -17,6 +17,10 @@ public:
     /// Set by Apply; while it is set OK closes the window afterwards.
     bool closeAfterApply = false;
 
+    /// What the pages are made in: where they will show, for a page that is moved has to work out
+    /// all its style sheets anew.
+    virtual QWidget *pageParent() { return this; }
+
     /// Around what moves values by itself, also outside the dialog's own passes: the user is told.
     virtual void beginMoves() {}
     virtual void endMoves() {}

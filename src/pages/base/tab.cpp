@@ -22,7 +22,7 @@
 #include <algorithm>
 
 Tab::Tab(PanelDialog *dialog, const PageHead &head)
-    : QWidget(dialog)
+    : QWidget(dialog->pageParent())
     , dialog(dialog)
     , head(head)
 {
@@ -30,7 +30,6 @@ Tab::Tab(PanelDialog *dialog, const PageHead &head)
         "ComboBoxEx{ margin-bottom: 8px }BixButtonGroup{ margin-bottom: 8px }QCheckBox{ "
         "margin-bottom: 8px }BixCheckBoxButton{ margin-bottom: 8px }"));
     setContentsMargins(10, 10, 10, 10);
-    Tab::tabConstraintIcon(); // so that no click has to read it
 }
 
 QString Tab::tabName()

@@ -3,6 +3,7 @@
 #include "widgets/bixbuttongroup.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
+#include "widgets/icons.h"
 #include "widgets/spoken.h"
 
 #include <QGridLayout>
@@ -109,7 +110,7 @@ void FinishingTab::createWidgets()
         headings[i] =
             named(new QLabel(tr(row.heading) + QLatin1String(row.suffix), this), row.headingName);
         buttons[i] = named(new BixCheckBoxButton(this, QLatin1String(row.buttonText),
-                                                 QIcon(QLatin1String(row.icon))),
+                                                 Icons::icon(QLatin1String(row.icon))),
                            row.buttonName);
     }
     for (int i = 0; i < ListCount; ++i) {

@@ -3,6 +3,7 @@
 #include "pages/imaging/adjustmentrows.h"
 #include "pages/imaging/adjustmentwidgets.h"
 #include "widgets/comboboxex.h"
+#include "widgets/icons.h"
 #include "widgets/mnemonics.h"
 #include "widgets/spoken.h"
 
@@ -10,7 +11,6 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -68,7 +68,7 @@ void adjustmentDialog::createRows()
 void adjustmentDialog::createLayout()
 {
     auto *picture = new QLabel(this);
-    picture->setPixmap(QIcon(QStringLiteral(":/icons/adjustment")).pixmap(50, 50));
+    picture->setPixmap(Icons::icon(QStringLiteral(":/icons/adjustment")).pixmap(50, 50));
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     const QPushButton *ok = buttons->button(QDialogButtonBox::Ok);

@@ -7,12 +7,12 @@
 #include "pages/imaging/monodialog.h"
 #include "widgets/bixbuttongroup.h"
 #include "widgets/comboboxex.h"
+#include "widgets/icons.h"
 #include "widgets/spoken.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 
@@ -75,7 +75,7 @@ constexpr const char *markKeywords[] = {"BSCREENMODE", "Cadj", "Trap", "GBTn", "
 QLabel *pictureLabel(QWidget *page, const char *icon)
 {
     auto *label = new QLabel(page);
-    label->setPixmap(QIcon(QLatin1String(icon)).pixmap(pictureSize, pictureSize));
+    label->setPixmap(Icons::icon(QLatin1String(icon)).pixmap(pictureSize, pictureSize));
     return label;
 }
 

@@ -11,6 +11,7 @@
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
 #include "widgets/constraintmark.h"
+#include "widgets/icons.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -36,9 +37,9 @@ constexpr int longestId = 8;
 JobAccounting::JobAccounting(QWidget *page)
     : JobGroup(named(new QLabel(page), "lblBqManagment"))
     , picture(new QLabel(page))
-    , button(
-          named(new BixCheckBoxButton(page, QString(), QIcon(QStringLiteral(":/icons/accounting"))),
-                "chkButBqManagment"))
+    , button(named(
+          new BixCheckBoxButton(page, QString(), Icons::icon(QStringLiteral(":/icons/accounting"))),
+          "chkButBqManagment"))
     , modeBox(named(new ComboBoxEx(page), "cmbBxBqManagment"))
     , idEdit(named(new QLineEdit(page), "lnEditAccountID"))
     , error(named(makeErrorLabel(page), "lblAccountIDError"))

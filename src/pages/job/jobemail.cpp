@@ -9,6 +9,7 @@
 #include "pages/base/pagewidgets.h"
 #include "pages/job/jobtexts.h"
 #include "widgets/bixcheckboxbutton.h"
+#include "widgets/icons.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -34,8 +35,9 @@ bOption *emailOption()
 
 JobEmail::JobEmail(QWidget *page)
     : JobGroup(named(new QLabel(page), "lblJobEmail"))
-    , button(named(new BixCheckBoxButton(page, QString(), QIcon(QStringLiteral(":/icons/email"))),
-                   "chkButJobEmail"))
+    , button(named(
+          new BixCheckBoxButton(page, QString(), Icons::icon(QStringLiteral(":/icons/email"))),
+          "chkButJobEmail"))
     , edit(named(new QLineEdit(page), "lnEditJobEmail"))
     , error(makeErrorLabel(page))
 {

@@ -10,6 +10,7 @@
 #include "storage/secretsetting.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/constraintmark.h"
+#include "widgets/icons.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -30,8 +31,9 @@ constexpr int longestText = 64; // characters
 
 JobLogin::JobLogin(QWidget *page)
     : JobGroup(named(new QLabel(page), "lblUserLogin"))
-    , button(named(new BixCheckBoxButton(page, QString(), QIcon(QStringLiteral(":/icons/user"))),
-                   "chkButUserLogin"))
+    , button(
+          named(new BixCheckBoxButton(page, QString(), Icons::icon(QStringLiteral(":/icons/user"))),
+                "chkButUserLogin"))
     , nameLabel(named(new QLabel(page), "lblLoginUserName"))
     , nameEdit(named(new QLineEdit(page), "lnEditLoginUserName"))
     , passwordLabel(named(new QLabel(page), "lblLoginPassword"))

@@ -13,6 +13,7 @@
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
 #include "widgets/constraintmark.h"
+#include "widgets/icons.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -45,8 +46,9 @@ const bOption *storageOption()
 
 JobStorage::JobStorage(QWidget *page)
     : JobGroup(named(new QLabel(page), "lblBXCollate1"))
-    , button(named(new BixCheckBoxButton(page, QString(), QIcon(QStringLiteral(":/icons/storage"))),
-                   "chkButBXCollate1"))
+    , button(named(
+          new BixCheckBoxButton(page, QString(), Icons::icon(QStringLiteral(":/icons/storage"))),
+          "chkButBXCollate1"))
     , box(named(new ComboBoxEx(page), "cmbBxBXCollate1"))
     , codeLabel(named(new QLabel(page), "lblAccesCodeLabel"))
     , codeEdit(named(new QLineEdit(page), "lnEditJobStorage"))

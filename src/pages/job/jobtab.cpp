@@ -14,6 +14,7 @@
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
 #include "widgets/constraintmark.h"
+#include "widgets/icons.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -71,7 +72,7 @@ std::array<JobGroup *, 5> JobTab::groups() const
 void JobTab::setPictures()
 {
     const auto set = [](QLabel *label, const char *path) {
-        label->setPixmap(QIcon(QLatin1String(path)).pixmap(pictureSize));
+        label->setPixmap(Icons::icon(QLatin1String(path)).pixmap(pictureSize));
     };
     set(accounting->picture, ":/icons/jobaccounting");
     set(name->picture, ":/icons/name");

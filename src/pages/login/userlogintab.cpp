@@ -8,6 +8,7 @@
 #include "storage/passwordcipher.h"
 #include "storage/settingsfile.h"
 #include "widgets/bixcheckboxbutton.h"
+#include "widgets/icons.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -47,7 +48,7 @@ void UserLoginTab::createWidgets()
 {
     titleLabel = new QLabel(this);
     loginButton =
-        new BixCheckBoxButton(this, QString(), QIcon(QStringLiteral(":/icons/userlogin")));
+        new BixCheckBoxButton(this, QString(), Icons::icon(QStringLiteral(":/icons/userlogin")));
     nameLabel = new QLabel(this);
     nameEdit = new QLineEdit(this);
     nameEdit->setMaxLength(longestText);

@@ -26,9 +26,6 @@ constexpr int captionWidth = 110; // at most, for inputs of the full width besid
 
 void PublishingTab::createLayout()
 {
-    setStyleSheet(QStringLiteral(
-        "ComboBoxEx{ margin-bottom: 0px }BixButtonGroup{ margin-bottom: 0px }QCheckBox{ "
-        "margin-bottom: 0px }BixCheckBoxButton{ margin-bottom: 0px; }"));
     const bool hasRoom = PanelLook::typeFactor(font()) == 1.0 &&
                          buttons[Interleaving]->sizeHint().width() <= captionWidth;
     for (QWidget *input : std::initializer_list<QWidget *>{media[Cover].box, media[PageInsert].box,

@@ -12,6 +12,7 @@
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
 #include "widgets/constraintmark.h"
+#include "widgets/icons.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -38,13 +39,18 @@ PublishingTab::PublishingTab(PanelDialog *dialog)
 
 void PublishingTab::createWidgets()
 {
+    // A frame takes its margins when it is made.
+    setStyleSheet(QStringLiteral(
+        "ComboBoxEx{ margin-bottom: 0px }BixButtonGroup{ margin-bottom: 0px }QCheckBox{ "
+        "margin-bottom: 0px }BixCheckBoxButton{ margin-bottom: 0px; }"));
     static_assert(std::size(modeRows) == ModeCount && std::size(sidesRows) == SidesCount &&
                   std::size(printRows) == PrintCount && std::size(captionRows) == CaptionCount);
     for (int i = 0; i < ModeCount; ++i) {
         const ModeRow &row = modeRows[i];
         headings[i] = named(new QLabel(this), row.headingName);
-        buttons[i] = named(new BixCheckBoxButton(this, QString(), QIcon(QLatin1String(row.icon))),
-                           row.buttonName);
+        buttons[i] =
+            named(new BixCheckBoxButton(this, QString(), Icons::icon(QLatin1String(row.icon))),
+                  row.buttonName);
         media[i] =
             PageWidgets::labeledComboBox(this, row.mediaLabelName, row.mediaBoxName, QString());
         media[i].label->setWordWrap(true); // the PPD's name of it may be long

@@ -11,6 +11,7 @@
 #include "pages/watermark/watermarkrows.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/comboboxex.h"
+#include "widgets/icons.h"
 
 #include <QCheckBox>
 #include <QFrame>
@@ -35,7 +36,7 @@ constexpr int longestName = 32; // characters
 BixCheckBoxButton *pictureButton(QWidget *parent, const char *icon, const QString &caption,
                                  const QString &name)
 {
-    auto *button = new BixCheckBoxButton(parent, QString(), QIcon(QLatin1String(icon)));
+    auto *button = new BixCheckBoxButton(parent, QString(), Icons::icon(QLatin1String(icon)));
     ButtonCaption::set(button, caption, name);
     return button;
 }
