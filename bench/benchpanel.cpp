@@ -1,7 +1,6 @@
 #include "benchpanel.h"
 
 #include "model/optionstore.h"
-#include "pages/base/tab.h"
 #include "support/testhelpers.h"
 #include "usage.h"
 #include "widgets/bixtabwidget.h"
@@ -14,22 +13,13 @@
 
 #include <cstdio>
 
-DialogCloser::DialogCloser()
+void DialogCloser::handle(QDialog *dialog)
 {
-    qApp->installEventFilter(this);
-}
-
-bool DialogCloser::eventFilter(QObject *watched, QEvent *event)
-{
-    auto *dialog = qobject_cast<QDialog *>(watched);
-    if (event->type() == QEvent::Show && dialog && dialog->isModal()) {
-        const Usage now = usageNow();
-        wallAtLast = now.wall;
-        cpuAtLast = now.own;
-        ++closed;
-        QMetaObject::invokeMethod(dialog, &QDialog::reject, Qt::QueuedConnection);
-    }
-    return false;
+    const Usage now = usageNow();
+    wallAtLast = now.wall;
+    cpuAtLast = now.own;
+    ++closed;
+    QMetaObject::invokeMethod(dialog, &QDialog::reject, Qt::QueuedConnection);
 }
 
 BenchPanel::BenchPanel()
@@ -49,44 +39,20 @@ bool BenchPanel::showsPrinter() const
 
 void BenchPanel::turnToAnyPage()
 {
-    QList<int> usable;
     // The first page's controls are hardware, which nobody clicks at each print.
-    for (int page = 1; page < tabs_->count(); ++page)
-        if (tabs_->isTabEnabled(page))
-            usable.append(page);
-    if (!usable.isEmpty())
-        tabs_->setCurrentIndex(usable[any(usable.size())]);
+    hands_.turnPage(tabs_, 1);
 }
 
 bool BenchPanel::clickAnything()
 {
     QList<QWidget *> controls;
-    const QList<QWidget *> widgets = tabs_->currentWidget()->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        const auto *box = qobject_cast<ComboBoxEx *>(widget);
-        const auto *button = qobject_cast<QAbstractButton *>(widget);
+    for (QWidget *control : usableControls(tabs_->currentWidget())) {
+        const auto *button = qobject_cast<QAbstractButton *>(control);
         // A button that can't be checked opens a dialog.
-        if (widget->isVisible() && widget->isEnabled() &&
-            ((box && box->count() > 1) || (button && button->isCheckable())))
-            controls.append(widget);
+        if (qobject_cast<ComboBoxEx *>(control) || (button && button->isCheckable()))
+            controls.append(control);
     }
-    if (controls.isEmpty())
-        return false;
-    QWidget *control = controls[any(controls.size())];
-    if (auto *button = qobject_cast<QAbstractButton *>(control)) {
-        button->click();
-        return true;
-    }
-    auto *box = qobject_cast<ComboBoxEx *>(control);
-    QList<int> items;
-    for (int item = 0; item < box->count(); ++item)
-        if (item != box->currentIndex() &&
-            (box->model()->index(item, 0).flags() & Qt::ItemIsEnabled))
-            items.append(item);
-    if (items.isEmpty())
-        return false;
-    box->setCurrentIndex(items[any(items.size())]);
-    return true;
+    return !controls.isEmpty() && !hands_.use(hands_.pick(controls)).isEmpty();
 }
 
 double BenchPanel::painted(double since)

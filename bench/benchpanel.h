@@ -1,25 +1,22 @@
 #pragma once
 
 #include "app/bixdialog.h"
-
-#include <random>
+#include "support/dialoghandler.h"
+#include "support/randomhands.h"
 
 class BixTabWidget;
-class QAbstractButton;
 class QTableWidget;
 
 /// Closes every dialog as soon as it shows, and remembers what had been used by then.
-class DialogCloser : public QObject
+class DialogCloser : public DialogHandler
 {
-    Q_OBJECT
-
 public:
-    DialogCloser();
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
     int closed = 0;
     double wallAtLast = 0; ///< in s, see Usage
     double cpuAtLast = 0;  ///< of this process
+
+protected:
+    void handle(QDialog *dialog) override;
 };
 
 /// The panel with hands that use it: it shows, with the printer of the first row selected.
@@ -44,12 +41,10 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    int any(int count) { return int(random_() % unsigned(count)); }
-
     QTableWidget *printers_;
     BixTabWidget *tabs_;
     bool hasDrawn_ = false;
-    std::mt19937 random_{1};
+    RandomHands hands_{1};
 };
 
 /// Answers the question that the panel has at its first start, for it would wait. False, with a
