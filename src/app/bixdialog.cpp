@@ -267,6 +267,9 @@ void BixDialog::slotButtonApply()
     }
     if (printerTab->installedOptionsChanged()) {
         changeInstalledOptions();
+        // A printer that is gone would stay selected: no look at the queues finds it missing again.
+        if (currentStore && !isSelectedPrinterKnown())
+            showFailedPublication();
         return;
     }
     writeTolpoptions();
