@@ -24,11 +24,12 @@ QString Publication::command(const QString &printer, const QStringList &keywords
 bool Publication::run(const QString &printer, const Settings &settings)
 {
     auto ppd = std::make_unique<QueuePpd>(printer);
+    const std::optional<QStringList> keywords = ppd->optionKeywords();
     // Without a PPD nothing can be published, and nobody should believe that it was.
-    if (!ppd->isOpen() || !isOneWord(printer))
+    if (!keywords || !isOneWord(printer))
         return false;
     processes.push_back(std::make_unique<QProcess>());
-    if (runCommandInLoop(processes.back().get(), command(printer, ppd->optionKeywords(), settings)))
+    if (runCommandInLoop(processes.back().get(), command(printer, *keywords, settings)))
         return true;
     ppd->leaveFile();
     failedPpds.push_back(std::move(ppd));

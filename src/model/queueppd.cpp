@@ -69,18 +69,35 @@ bool mayBeMakers(const QByteArray &text)
     return false;
 }
 
+/// Empty if there is no such file.
+QByteArray textOf(const QByteArray &path)
+{
+    QFile file(QFile::decodeName(path));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Texts with the same digest are one.
+QByteArray digestOf(const QByteArray &text)
+{
+    return QCryptographicHash::hash(text, QCryptographicHash::Sha1);
+}
+
+/// The keywords of each PPD that has been opened, by the digest of its text.
+QHash<QByteArray, QStringList> &knownKeywords()
+{
+    static QHash<QByteArray, QStringList> known;
+    return known;
+}
+
 /// The full parse takes milliseconds, and on a server with a thousand queues most are of others,
 /// and many of the same model.
 int rowCountOf(const QByteArray &path)
 {
-    QFile file(QFile::decodeName(path));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    const QByteArray text = file.readAll();
+    const QByteArray text = textOf(path);
     if (!mayBeMakers(text))
         return 0;
     static QHash<QByteArray, int> counts;
-    const QByteArray digest = QCryptographicHash::hash(text, QCryptographicHash::Sha1);
+    const QByteArray digest = digestOf(text);
     auto known = counts.constFind(digest);
     if (known == counts.constEnd()) {
         ppd_file_t *ppd = ppdOpenFile(path.constData());
@@ -95,9 +112,8 @@ int rowCountOf(const QByteArray &path)
 
 QueuePpd::QueuePpd(const QString &queue)
     : path_(fetchPpd(queue))
+    , digest_(path_.isEmpty() ? QByteArray() : digestOf(textOf(path_)))
 {
-    if (!path_.isEmpty())
-        ppd_ = ppdOpenFile(path_.constData());
 }
 
 QueuePpd::~QueuePpd()
@@ -108,24 +124,37 @@ QueuePpd::~QueuePpd()
         unlink(path_.constData());
 }
 
-std::unique_ptr<OptionStore> QueuePpd::makeStore() const
+bool QueuePpd::open()
 {
+    if (ppd_ || path_.isEmpty())
+        return ppd_;
+    ppd_ = ppdOpenFile(path_.constData());
     if (!ppd_)
+        return false;
+    QStringList keywords;
+    for (int i = 0; i < ppd_->num_groups; ++i) {
+        const ppd_group_t &group = ppd_->groups[i];
+        for (int j = 0; j < group.num_options; ++j)
+            keywords.append(QString::fromLatin1(group.options[j].keyword));
+    }
+    knownKeywords().insert(digest_, keywords);
+    return true;
+}
+
+std::unique_ptr<OptionStore> QueuePpd::makeStore()
+{
+    if (!open())
         return nullptr;
     auto store = std::make_unique<OptionStore>();
     importPpd(ppd_, store.get());
     return store;
 }
 
-QStringList QueuePpd::optionKeywords() const
+std::optional<QStringList> QueuePpd::optionKeywords()
 {
-    QStringList keywords;
-    for (int i = 0; ppd_ && i < ppd_->num_groups; ++i) {
-        const ppd_group_t &group = ppd_->groups[i];
-        for (int j = 0; j < group.num_options; ++j)
-            keywords.append(QString::fromLatin1(group.options[j].keyword));
-    }
-    return keywords;
+    if (!knownKeywords().contains(digest_) && !open())
+        return std::nullopt;
+    return knownKeywords().value(digest_);
 }
 
 int makerRowCount(const PrintQueue &queue)

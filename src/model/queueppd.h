@@ -5,14 +5,14 @@
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
 class OptionStore;
 struct PrintQueue;
 struct ppd_file_s; // of libcups, which stays out of the headers that pages include
 
 /// The PPD of a print queue: a temporary copy (cupsGetPPD) that is closed and removed with the
-/// object. A queue that has none, or whose PPD can't be opened, gives an object that is not open
-/// and answers nothing.
+/// object. For a queue that has none, or whose PPD can't be opened, it answers nothing.
 class QueuePpd
 {
 public:
@@ -21,18 +21,20 @@ public:
     QueuePpd &operator=(const QueuePpd &) = delete;
     ~QueuePpd();
 
-    bool isOpen() const { return ppd_ != nullptr; }
+    /// A new store filled by importPpd(); null if there is nothing to answer.
+    std::unique_ptr<OptionStore> makeStore();
+    /// The option keywords in the order of the file, group by group; no list if there is nothing to
+    /// answer. A text that has been opened before is not parsed again, which takes milliseconds.
+    std::optional<QStringList> optionKeywords();
 
-    /// A new store filled by importPpd(); null if the PPD is not open.
-    std::unique_ptr<OptionStore> makeStore() const;
-    /// The option keywords in the order of the file, group by group.
-    QStringList optionKeywords() const;
-
-    /// Leaves the temporary copy on disk, and the PPD open as long as the object lives.
+    /// Leaves the temporary copy on disk, and the PPD open, if it is, as long as the object lives.
     void leaveFile() { keepFile_ = true; }
 
 private:
+    bool open();
+
     QByteArray path_;
+    QByteArray digest_; ///< of the PPD's text
     ppd_file_s *ppd_ = nullptr;
     bool keepFile_ = false;
 };
