@@ -5,9 +5,10 @@
 #include <cstdio>
 
 void RatioTable::add(Figure figure, const QString &name, double seen, double limit,
-                     const char *unit, double headRoom)
+                     const char *unit)
 {
-    const bool isJudged = figure == Figure::Cpu || !isShort_;
+    const double headRoom = figure == Figure::Exact ? 1 : isShort_ ? 1.5 : 1.25;
+    const bool isJudged = figure != Figure::Clock || !isShort_;
     const bool isMissed = isJudged && !(seen <= limit * headRoom); // what is no number misses
     const char *word = seen <= limit ? "ok" : "over, within the head room";
     if (isMissed)

@@ -4,16 +4,17 @@
 
 /// Collects what was measured, each with the limit that it has to keep, and says what missed it.
 ///
-/// A limit has head room for noise: only what is beyond `limit * headRoom` misses. In the short
-/// form, which is for machines with more than this to do, no wall-clock figure is judged.
+/// A limit has head room for noise: a quarter beyond it misses. In the short form, which is for
+/// machines with more than this to do, half beyond it misses, and no wall-clock figure is judged.
 class RatioTable
 {
 public:
     /// How a figure was taken.
     enum class Figure
     {
-        Cpu,  ///< CPU time or bytes, compared within the run: judged always
-        Clock ///< wall-clock time, judged in the full form only
+        Exact, ///< bytes or counts: judged always, without head room
+        Cpu,   ///< CPU time, compared within the run: judged always
+        Clock, ///< wall-clock time, judged in the full form only
     };
 
     explicit RatioTable(bool isShort)
@@ -24,8 +25,7 @@ public:
     bool isShort() const { return isShort_; }
     /// Judges a figure and prints its line; PRESSDESK_BENCH_ROWS may name a file that gets it too.
     /// \param unit behind both numbers, such as " ms", or empty for a ratio
-    void add(Figure figure, const QString &name, double seen, double limit, const char *unit = "",
-             double headRoom = 1.25);
+    void add(Figure figure, const QString &name, double seen, double limit, const char *unit = "");
     bool hasMissed() const { return hasMissed_; }
 
 private:

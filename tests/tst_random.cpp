@@ -11,6 +11,7 @@
 #include "pages/base/tab.h"
 #include "player/shortppd.h"
 #include "storage/settingsfile.h"
+#include "support/randomhands.h"
 #include "support/testhelpers.h"
 #include "widgets/bixbuttongroup.h"
 #include "widgets/bixcheckboxbutton.h"
@@ -23,7 +24,6 @@
 #include <QTableWidget>
 
 #include <algorithm>
-#include <random>
 
 namespace {
 
@@ -33,31 +33,6 @@ constexpr int printersPerWindow = 50;
 /// One pass and ten repeats.
 constexpr int mostPasses = 1 + 10;
 constexpr qint64 deepestStack = 512 * 1024; // bytes; with sanitizers as well
-
-class Random
-{
-public:
-    explicit Random(unsigned seed)
-        : engine(seed)
-    {
-    }
-    int below(int limit) { return int(engine() % unsigned(limit)); }
-    bool oneIn(int times) { return below(times) == 0; }
-    template <typename List>
-    auto pick(const List &list)
-    {
-        return list[below(int(list.size()))];
-    }
-    template <typename List>
-    List shuffled(List list)
-    {
-        std::shuffle(list.begin(), list.end(), engine);
-        return list;
-    }
-
-private:
-    std::mt19937 engine;
-};
 
 /// The options that a printer may have: the first word is the keyword, the others are choices.
 const QStringList optionPool = {
@@ -108,7 +83,7 @@ struct Printer
     QByteArray settings;
 };
 
-Printer randomPrinter(Random *random)
+Printer randomPrinter(RandomHands *random)
 {
     Printer printer;
     QStringList values;
@@ -229,7 +204,7 @@ private:
 };
 
 /// Does something that a user could do with the widget, and says what; null if there is nothing.
-QString actOn(const BoundWidget &bound, Random *random)
+QString actOn(const BoundWidget &bound, RandomHands *random)
 {
     const auto click = [&](QAbstractButton *button, const QString &name) {
         button->click();
@@ -305,12 +280,8 @@ private slots:
 
 void TestRandom::clicksEnd()
 {
-    const auto number = [](const char *variable, unsigned otherwise) {
-        return qEnvironmentVariableIsSet(variable) ? qEnvironmentVariable(variable).toUInt()
-                                                   : otherwise;
-    };
-    const unsigned seed = number("PRESSDESK_TEST_SEED", std::random_device()());
-    const int count = int(number("PRESSDESK_RANDOM_PPDS", 200));
+    const unsigned seed = numberFrom("PRESSDESK_TEST_SEED", std::random_device()());
+    const int count = int(numberFrom("PRESSDESK_RANDOM_PPDS", 200));
     qInfo("seed %u, %d printers (PRESSDESK_TEST_SEED=%u PRESSDESK_RANDOM_PPDS=%d repeats it)", seed,
           count, seed, count);
 
@@ -333,7 +304,7 @@ void TestRandom::clicksEnd()
             window.reset();
             window = std::make_unique<Window>();
         }
-        Random random(seed + unsigned(i));
+        RandomHands random(seed + unsigned(i));
         const Printer printer = randomPrinter(&random);
         const int row = i % 2;
         const QString ppd = ppdText(printer.parts);

@@ -396,12 +396,8 @@ private slots:
 
 void TestSoak::everythingHolds()
 {
-    const auto number = [](const char *variable, unsigned otherwise) {
-        return qEnvironmentVariableIsSet(variable) ? qEnvironmentVariable(variable).toUInt()
-                                                   : otherwise;
-    };
-    const unsigned seed = number("PRESSDESK_SOAK_SEED", std::random_device()());
-    const int actions = int(number("PRESSDESK_SOAK_ACTIONS", 2000));
+    const unsigned seed = numberFrom("PRESSDESK_SOAK_SEED", std::random_device()());
+    const int actions = int(numberFrom("PRESSDESK_SOAK_ACTIONS", 2000));
     qInfo("seed %u, %d actions (PRESSDESK_SOAK_SEED=%u PRESSDESK_SOAK_ACTIONS=%d repeats them)",
           seed, actions, seed, actions);
     QVERIFY(QDir().mkpath(userDirectory()) && setFileText(settingsPath(), "Telemetry=False"));

@@ -3,6 +3,7 @@
 #include <QList>
 #include <QString>
 
+#include <algorithm>
 #include <random>
 
 class QTabWidget;
@@ -27,6 +28,12 @@ public:
     auto pick(const List &list)
     {
         return list[below(int(list.size()))];
+    }
+    template <typename List>
+    List shuffled(List list)
+    {
+        std::shuffle(list.begin(), list.end(), engine_);
+        return list;
     }
 
     /// Turns to a page that can be used, from the page `first` on. False if there is none.

@@ -46,6 +46,13 @@ Widget *findNamed(const QWidget *parent, const char *name)
     return nullptr;
 }
 
+/// What a variable of the environment says, or else another number.
+inline unsigned numberFrom(const char *variable, unsigned otherwise)
+{
+    return qEnvironmentVariableIsSet(variable) ? qEnvironmentVariable(variable).toUInt()
+                                               : otherwise;
+}
+
 /// A file's text; null if it can't be read.
 inline QByteArray fileText(const QString &path)
 {
