@@ -70,6 +70,7 @@ void AboutDialog::createPicture()
     painter.end();
 
     picture->setMinimumSize(pictureSize);
+    picture->setAlignment(Qt::AlignCenter); // the buttons below it may be wider
     picture->setPixmap(pixmap);
     picture->setAccessibleName(spoken.join(QStringLiteral(", ")));
     Spoken::setName(picture, picture->accessibleName());
