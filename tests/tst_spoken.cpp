@@ -164,6 +164,30 @@ private slots:
         QCOMPARE(spoken(staple)->text(A::Description), QString("Greyed"));
     }
 
+    void listOfPages()
+    {
+        constexpr int job = 6;
+        QAccessibleInterface *list = spoken(tabs->tabBar());
+        auto *page = qobject_cast<Tab *>(tabs->widget(job));
+        auto *accounting =
+            findNamed<QWidget>(window.get(), "chkButBqManagment")->findChild<QCheckBox *>();
+        for (int click = 0; click < 3 && !page->hasMarks(); ++click)
+            accounting->click(); // no account is known
+        QVERIFY(page->hasMarks());
+        QVERIFY(list->child(job)->text(A::Description).startsWith(Spoken::conflict()));
+        const auto press = [&] {
+            list->child(job)->actionInterface()->doAction(
+                QAccessibleActionInterface::pressAction());
+            return tabs->currentIndex() == job;
+        };
+        tabs->setCurrentIndex(0);
+        tabs->setTabEnabled(job, false); // as without a printer
+        QVERIFY(list->child(job)->state().invisible && !press());
+        tabs->setTabEnabled(job, true);
+        QVERIFY(!list->child(job)->state().invisible && press());
+        accounting->click();
+    }
+
     void actions()
     {
         const auto act = [](QWidget *widget, const QString &action) {

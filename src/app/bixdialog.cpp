@@ -16,6 +16,7 @@
 #include "widgets/bixbuttongroup.h"
 #include "widgets/bixtabwidget.h"
 #include "widgets/noticeline.h"
+#include "widgets/spoken.h"
 
 #include <QDialogButtonBox>
 #include <QKeyEvent>
@@ -228,6 +229,8 @@ void BixDialog::markPage(int index)
     page->markConstraintWidgets();
     if (page->hasMarks())
         tabWidget->setTabIcon(index, page->tabConstraintIcon());
+    // For screen readers, which have no icons.
+    tabWidget->setTabWhatsThis(index, page->hasMarks() ? Spoken::conflict() : QString());
 }
 
 bool BixDialog::hasMarks() const

@@ -25,4 +25,7 @@ void setLabels(QWidget *control, const QList<QWidget *> &labels);
 /// Names a control that no label stands for. A picture without a name decorates and is left out.
 void setName(QWidget *control, const QString &name);
 
+/// What a mark says that has no explanation of its own.
+QString conflict();
+
 } // namespace Spoken

@@ -4,6 +4,7 @@
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/noticeline.h"
 #include "widgets/spoken.h"
+#include "widgets/spokentab.h"
 #include "widgets/spokenwords.h"
 
 #include <QAbstractButton>
@@ -13,6 +14,7 @@
 #include <QLibraryInfo>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QTabBar>
 
 namespace {
 
@@ -49,17 +51,16 @@ QAccessible::Role roleOfFrame(const QFrame *frame)
 // What it is
 
 SpokenInterface::SpokenInterface(QWidget *widget, QAccessibleInterface *qt)
-    : widget(widget)
-    , qt(qt)
-    , qtId(QAccessible::uniqueId(qt))
+    : AccessibleProxy(qt)
+    , widget(widget)
 {
 }
 
 SpokenInterface::~SpokenInterface()
 {
-    // At the end of the program the cache takes them all down in any order.
-    if (!QCoreApplication::closingDown() && QAccessible::accessibleInterface(qtId) == qt)
-        QAccessible::deleteAccessibleInterface(qtId);
+    for (const QAccessible::Id tab : qAsConst(tabs))
+        if (!QCoreApplication::closingDown() && QAccessible::accessibleInterface(tab))
+            QAccessible::deleteAccessibleInterface(tab);
 }
 
 QString SpokenInterface::text(QAccessible::Text t) const
@@ -136,6 +137,18 @@ SpokenInterface::relations(QAccessible::Relation match) const
     return all;
 }
 
+QAccessibleInterface *SpokenInterface::child(int index) const
+{
+    QAccessibleInterface *part = qt->child(index);
+    auto *bar = qobject_cast<QTabBar *>(widget);
+    if (!bar || !part || part->role() != QAccessible::PageTab)
+        return part;
+    if (!tabs.contains(index))
+        tabs.insert(index,
+                    QAccessible::registerAccessibleInterface(new SpokenTab(bar, index, part)));
+    return QAccessible::accessibleInterface(tabs.value(index));
+}
+
 // What it does
 
 void *SpokenInterface::interface_cast(QAccessible::InterfaceType type)
@@ -146,21 +159,6 @@ void *SpokenInterface::interface_cast(QAccessible::InterfaceType type)
     return part;
 }
 
-QStringList SpokenInterface::actionNames() const
-{
-    return qt->actionInterface()->actionNames();
-}
-
-QString SpokenInterface::localizedActionName(const QString &name) const
-{
-    return qt->actionInterface()->localizedActionName(name);
-}
-
-QString SpokenInterface::localizedActionDescription(const QString &name) const
-{
-    return qt->actionInterface()->localizedActionDescription(name);
-}
-
 void SpokenInterface::doAction(const QString &name)
 {
     auto *button = qobject_cast<QAbstractButton *>(widget);
@@ -169,11 +167,6 @@ void SpokenInterface::doAction(const QString &name)
         QMetaObject::invokeMethod(button, &QAbstractButton::click, Qt::QueuedConnection);
     else
         qt->actionInterface()->doAction(name);
-}
-
-QStringList SpokenInterface::keyBindingsForAction(const QString &name) const
-{
-    return qt->actionInterface()->keyBindingsForAction(name);
 }
 
 // How Qt gets to it

@@ -3,6 +3,7 @@
 #include "widgets/bixbuttongroup.h"
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/constraintmark.h"
+#include "widgets/spoken.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSlider>
@@ -101,9 +102,7 @@ QString explanationOf(const QWidget *widget)
     const QString text =
         plain(widget->accessibleDescription().isEmpty() ? widget->toolTip()
                                                         : widget->accessibleDescription());
-    return text.isEmpty() && isMarked(widget)
-               ? QCoreApplication::translate("Spoken", "In conflict with other settings")
-               : text;
+    return text.isEmpty() && isMarked(widget) ? Spoken::conflict() : text;
 }
 
 } // namespace
@@ -153,6 +152,11 @@ QString Spoken::descriptionOf(const QWidget *widget)
             sentences.append(sentence);
     }
     return sentences.join(QLatin1Char(' '));
+}
+
+QString Spoken::conflict()
+{
+    return QCoreApplication::translate("Spoken", "In conflict with other settings");
 }
 
 bool Spoken::isPicture(const QLabel *label)
