@@ -292,7 +292,7 @@ void BixDialog::createLayout()
     grid->addWidget(saveAsButton, 2, 6, 1, 2, Qt::AlignRight);
     grid->addWidget(profilesButton, 2, 8, 1, 1);
     grid->addItem(new QSpacerItem(50, 23), 4, 1, 1, 3);
-    grid->addWidget(logoButton, 4, 1, 1, 3, Qt::AlignBottom);
+    grid->addWidget(logoButton, 4, 1, 1, 3, Qt::AlignBottom | Qt::AlignLeft);
     grid->addWidget(buttonBox, 4, 4, 1, 5, Qt::AlignBottom | Qt::AlignRight);
 }
 

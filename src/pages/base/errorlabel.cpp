@@ -1,5 +1,7 @@
 #include "pages/base/errorlabel.h"
 
+#include "widgets/panellook.h"
+
 #include <QLabel>
 
 QLabel *makeErrorLabel(QWidget *page)
@@ -19,6 +21,6 @@ void styleErrorLabel(QLabel *label, int fontSize)
     label->setStyleSheet(
         QStringLiteral("QLabel{color: red; font-family: Sans; font-size: %1px; border-width: 1px; "
                        "border-color: %2; border-style: solid}")
-            .arg(fontSize)
+            .arg(qRound(fontSize * PanelLook::typeFactor(page->font())))
             .arg(page->palette().color(page->backgroundRole()).name()));
 }

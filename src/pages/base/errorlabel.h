@@ -7,5 +7,6 @@ class QWidget;
 /// something to say. `page` becomes its parent.
 QLabel *makeErrorLabel(QWidget *page);
 
-/// Gives a label on a page the look of an error message; `fontSize` is in pixels.
+/// Gives a label on a page the look of an error message; `fontSize` is in pixels, of type of the
+/// usual size.
 void styleErrorLabel(QLabel *label, int fontSize);
