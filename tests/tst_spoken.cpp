@@ -180,6 +180,11 @@ private slots:
                 QAccessibleActionInterface::pressAction());
             return tabs->currentIndex() == job;
         };
+        tabs->setCurrentIndex(job);
+        const QPoint place = list->child(job)->rect().center();
+        QCOMPARE(list->focusChild(), list->child(job));
+        QCOMPARE(list->childAt(place.x(), place.y()), list->child(job));
+        QCOMPARE(list->indexOfChild(list->child(job)), job);
         tabs->setCurrentIndex(0);
         tabs->setTabEnabled(job, false); // as without a printer
         QVERIFY(list->child(job)->state().invisible && !press());

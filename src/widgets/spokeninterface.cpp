@@ -149,6 +149,24 @@ QAccessibleInterface *SpokenInterface::child(int index) const
     return QAccessible::accessibleInterface(tabs.value(index));
 }
 
+int SpokenInterface::indexOfChild(const QAccessibleInterface *child) const
+{
+    for (auto tab = tabs.cbegin(); tab != tabs.cend(); ++tab)
+        if (QAccessible::accessibleInterface(*tab) == child)
+            return tab.key();
+    return qt->indexOfChild(child);
+}
+
+/// What stands before one of Qt's own parts of the widget, if anything does.
+QAccessibleInterface *SpokenInterface::spoken(QAccessibleInterface *part) const
+{
+    const auto *bar = qobject_cast<QTabBar *>(widget);
+    for (int i = 0; part && bar && i < bar->count(); ++i)
+        if (qt->child(i) == part)
+            return child(i);
+    return part;
+}
+
 // What it does
 
 void *SpokenInterface::interface_cast(QAccessible::InterfaceType type)
