@@ -8,8 +8,24 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QPushButton>
+#include <QThread>
 
 #include <cstdio>
+#include <sys/wait.h>
+
+namespace {
+
+/// So that the panel's look at the status doesn't slow down what it is compared with.
+void waitForCommands()
+{
+    siginfo_t child;
+    while (waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) == 0) {
+        QThread::msleep(1);
+        QCoreApplication::processEvents();
+    }
+}
+
+} // namespace
 
 bool measureApply(RatioTable *table)
 {
@@ -31,6 +47,7 @@ bool measureApply(RatioTable *table)
         walls.push_back(closer.wallAtLast - before.wall);
         cpus.push_back(closer.cpuAtLast - before.own);
         panel.painted(0);
+        waitForCommands();
         QStringList lpoptions = {"lpoptions", "-p", currentStore->printerName()};
         const QList<bOption *> options = currentStore->optionList();
         for (const bOption *option : options)

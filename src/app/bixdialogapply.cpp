@@ -5,6 +5,7 @@
 #include "desktop/desktopsettings.h"
 #include "model/optionstore.h"
 #include "model/printqueues.h"
+#include "pages/printer/printertab.h"
 #include "storage/settingsfile.h"
 #include "widgets/bixtabwidget.h"
 #include "widgets/noticeline.h"
@@ -75,6 +76,7 @@ bool BixDialog::publish(const QString &printer, const Settings &settings)
     setButtonsEnabled(false);
     settling.stop();
     notice->showWork(tr("Applying..."));
+    printerTab->setAsking(false);
     bool complete = false;
     {
         const BusyGuard busy;
@@ -85,6 +87,7 @@ bool BixDialog::publish(const QString &printer, const Settings &settings)
         if (complete)
             runDesktopExport(settings);
     }
+    printerTab->setAsking(true);
     notice->endWork();
     setButtonsEnabled(couldApply);
     if (wasSettling)

@@ -173,8 +173,16 @@ void PrinterTab::askAnew()
     printerTable->viewport()->update();
 }
 
+void PrinterTab::setAsking(bool on)
+{
+    mayAsk = on;
+    printerTable->viewport()->update(); // after which rows in view are asked for
+}
+
 void PrinterTab::askForRowsInView()
 {
+    if (!mayAsk)
+        return;
     QStringList queues;
     const auto [first, last] = printerTable->rowsInView();
     for (int row = first; row <= last; ++row) {

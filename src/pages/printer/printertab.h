@@ -55,6 +55,9 @@ public:
     /// Asks the print system for its queues anew, and lists them anew if they are others. The
     /// selected queue stays selected, and no printer change comes of it.
     void reloadPrinterTable();
+    /// Whether the status of queues may be asked for, which takes time from what else runs; at first
+    /// it may. What was not asked for meanwhile is asked for afterwards.
+    void setAsking(bool on);
     /// Shows that no printer is selected.
     void clearPrinterSelection();
 
@@ -94,6 +97,7 @@ private:
     PrinterStatusReader *statusReader;
     QHash<QString, QString> statuses;   ///< by queue, as they were told last
     QSet<QString> upToDate;             ///< queues whose status is not to be asked for
+    bool mayAsk = true;
     std::unique_ptr<OptionStore> store; ///< of the printer that was selected last
     std::unique_ptr<OptionStore> previousStore;
 };
