@@ -149,7 +149,10 @@ void PrinterTab::fillTable(const Rows &rows)
 {
     // A queue with two rows keeps the one that was selected.
     const QStringList listed = listedQueues();
-    const QString selected = listed.value(printerTable->currentRow());
+    QString selected = listed.value(printerTable->currentRow());
+    // Its row may have been missing for a while, as when the scheduler starts anew.
+    if (selected.isEmpty() && currentStore)
+        selected = currentStore->printerName();
     const int which = printerTable->currentRow() - listed.indexOf(selected);
 
     printerTable->setRowCount(0);
