@@ -3,15 +3,13 @@
 // each Apply the panel is started anew: it has to come up with what was applied.
 
 #include "app/bixdialog.h"
-#include "model/boption.h"
 #include "model/optionstore.h"
 #include "model/printqueues.h"
 #include "pages/base/tab.h"
-#include "pages/watermark/watermarkrows.h"
-#include "storage/command.h"
 #include "storage/settingsfile.h"
 #include "support/dialoghandler.h"
 #include "support/randomhands.h"
+#include "support/readback.h"
 #include "support/scheduler.h"
 #include "support/testhelpers.h"
 #include "widgets/bixtabwidget.h"
@@ -41,55 +39,6 @@ void expect(bool holds, const QString &fault)
 {
     if (!holds)
         faults << fault;
-}
-
-/// Keyword and key of every option.
-QMap<QString, QString> selection()
-{
-    QMap<QString, QString> selected;
-    for (const bOption *option : currentStore->optionList())
-        selected.insert(option->key(), option->currentKey());
-    return selected;
-}
-
-/// What lpoptions keeps, by queue.
-QMap<QString, QStringList> published()
-{
-    QMap<QString, QStringList> queues;
-    for (const QByteArray &line : fileText(QDir::home().filePath(".cups/lpoptions")).split('\n')) {
-        const QStringList words = QProcess::splitCommand(QString::fromUtf8(line));
-        queues.insert(words.value(1), words.mid(2));
-    }
-    return queues;
-}
-
-/// A look goes with the texts of the user's own; the printer's texts come up with the usual one.
-bool isUsualLook(const QString &keyword, const QString &after)
-{
-    using namespace WatermarkRows;
-    const bOption *text = currentOption(textKeyword);
-    if (!text || !text->hasChoice(readSetting(textKeyword)))
-        return false;
-    const QList<OptionChoice *> choices = currentOption(keyword)->choiceList();
-    for (const FeatureRow &row : featureRows)
-        if (keyword == row.keyword)
-            return choices.value(row.usual) && choices[row.usual]->key() == after;
-    return keyword == repeatKeyword && after == "False";
-}
-
-/// Why an applied option comes up with another value, where that is meant; empty if it isn't.
-QString whyOtherwise(const QString &keyword, const QString &before, const QString &after)
-{
-    const QString saved = readSetting(keyword);
-    if (isUsualLook(keyword, after))
-        return "the look of a printer's watermark text";
-    // The buttons say what kind of fold it is, which is all that is saved and published.
-    if (keyword == "FldA" && saved == before && after == "None")
-        return "a fold is on";
-    // Cancelled values stay in the dialog until it opens again, and Apply takes what is there.
-    if (QStringList{"Cadj", "CaColorSpace", "Madj"}.contains(keyword) && saved == after)
-        return "a cancelled adjustment";
-    return {};
 }
 
 class Soak : public DialogHandler
@@ -269,13 +218,8 @@ private:
         start();
         printers->setCurrentCell(printers->findItems(queue, Qt::MatchExactly).value(0)->row(), 0);
         settle();
-        // What is no word comes apart on the way.
-        for (const bOption *option : currentStore->optionList()) {
-            const QString value = readSetting(option->key());
-            const QString pair = option->key() + '=' + value;
-            if (option->isPpdOption() && isOneWord(value))
-                expect(applied[queue].contains(pair), "applied, but not published is " + pair);
-        }
+        const QStringList missing = unpublished(applied[queue]);
+        expect(missing.isEmpty(), "applied, but not published is " + missing.join(' '));
         const QMap<QString, QString> after = selection();
         for (auto each = before.cbegin(); each != before.cend(); ++each) {
             const QString keyword = each.key(), now = after[keyword];
