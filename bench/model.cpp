@@ -22,7 +22,8 @@ public:
         for (const Run &run : runs) {
             if (run.aggregate_name == "median")
                 medians_[run.run_name.function_name] = run.GetAdjustedCPUTime();
-            hasFailed_ = hasFailed_ || run.error_occurred;
+            // It has said why. Versions of the library call this by different names.
+            hasFailed_ = hasFailed_ || run.iterations == 0;
         }
         ConsoleReporter::ReportRuns(runs);
     }

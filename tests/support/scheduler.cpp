@@ -34,6 +34,11 @@ Scheduler::Scheduler()
     queues_ = {allQueues_.begin(), allQueues_.end()};
 }
 
+Scheduler::~Scheduler()
+{
+    wakeUp(); // or nothing can stop it
+}
+
 void Scheduler::run(const QString &command, const QStringList &arguments)
 {
     QProcess process;
@@ -79,6 +84,8 @@ void Scheduler::fallSilent(double seconds)
 
 void Scheduler::wakeUp()
 {
-    kill(process(), SIGCONT);
+    if (const pid_t scheduler = process())
+        kill(scheduler, SIGCONT);
     waker_.kill();
+    waker_.waitForFinished();
 }

@@ -10,6 +10,8 @@ class Scheduler
 {
 public:
     Scheduler();
+    ~Scheduler();
+    Q_DISABLE_COPY(Scheduler)
 
     /// The queues that it has now: none while it is stopped.
     const QSet<QString> &queues() const { return queues_; }
