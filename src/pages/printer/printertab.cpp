@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -150,10 +151,10 @@ void PrinterTab::fillTable(const Rows &rows)
     // A queue with two rows keeps the one that was selected.
     const QStringList listed = listedQueues();
     QString selected = listed.value(printerTable->currentRow());
+    const int which = printerTable->currentRow() - listed.indexOf(selected);
     // Its row may have been missing for a while, as when the scheduler starts anew.
     if (selected.isEmpty() && currentStore)
         selected = currentStore->printerName();
-    const int which = printerTable->currentRow() - listed.indexOf(selected);
 
     printerTable->setRowCount(0);
     printerTable->setRowCount(rows.size());
@@ -173,13 +174,20 @@ void PrinterTab::fillTable(const Rows &rows)
 void PrinterTab::askAnew()
 {
     upToDate.clear();
-    printerTable->viewport()->update();
+    askSoon();
+}
+
+void PrinterTab::askSoon()
+{
+    // A table that doesn't show asks once it does.
+    if (printerTable->isVisible())
+        QTimer::singleShot(0, this, &PrinterTab::askForRowsInView);
 }
 
 void PrinterTab::setAsking(bool on)
 {
     mayAsk = on;
-    printerTable->viewport()->update(); // after which rows in view are asked for
+    askSoon();
 }
 
 void PrinterTab::askForRowsInView()

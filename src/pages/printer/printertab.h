@@ -55,8 +55,8 @@ public:
     /// Asks the print system for its queues anew, and lists them anew if they are others. The
     /// selected queue stays selected, and no printer change comes of it.
     void reloadPrinterTable();
-    /// Whether the status of queues may be asked for, which takes time from what else runs; at first
-    /// it may. What was not asked for meanwhile is asked for afterwards.
+    /// Whether the status of queues may be asked for, which takes time from what else runs; at
+    /// first it may. What was not asked for meanwhile is asked for afterwards.
     void setAsking(bool on);
     /// Shows that no printer is selected.
     void clearPrinterSelection();
@@ -75,6 +75,7 @@ private:
     void fillTable(const Rows &rows);
     /// Has the status of each queue asked for again once its row is in view.
     void askAnew();
+    void askSoon();
     void askForRowsInView();
     void showStatus(const QString &queue, const QString &status);
     void explainEmptiness(bool answered);
@@ -95,8 +96,8 @@ private:
     QHash<QString, QString> installedValues; ///< as last loaded or written
     bool installedChanged = false;
     PrinterStatusReader *statusReader;
-    QHash<QString, QString> statuses;   ///< by queue, as they were told last
-    QSet<QString> upToDate;             ///< queues whose status is not to be asked for
+    QHash<QString, QString> statuses; ///< by queue, as they were told last
+    QSet<QString> upToDate;           ///< queues whose status is not to be asked for
     bool mayAsk = true;
     std::unique_ptr<OptionStore> store; ///< of the printer that was selected last
     std::unique_ptr<OptionStore> previousStore;
