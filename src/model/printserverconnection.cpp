@@ -43,6 +43,22 @@ bool isCrowded(const char *server)
     return hasToWait;
 }
 
+/// Whether there is anybody at the other end. Where a socket takes no more, later versions of
+/// libcups (2.4.10) believe in a connection all the same and try to talk to it for ever.
+bool isConnected(http_t *http)
+{
+    sockaddr_storage peer;
+    socklen_t length = sizeof peer;
+    return getpeername(httpGetFd(http), reinterpret_cast<sockaddr *>(&peer), &length) == 0;
+}
+
+/// Whether the other end has closed it since, after which libcups would connect anew by itself.
+bool isClosed(http_t *http)
+{
+    char byte;
+    return recv(httpGetFd(http), &byte, 1, MSG_PEEK | MSG_DONTWAIT) == 0;
+}
+
 struct IppDeleter
 {
     void operator()(ipp_t *message) const { ippDelete(message); }
@@ -106,10 +122,12 @@ PrintServerConnection::~PrintServerConnection() = default;
 bool PrintServerConnection::connect()
 {
     startClock();
-    if (http_)
+    if (http_ && !isClosed(http_.get()))
         return true;
     http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
                              int(longestWait), nullptr));
+    if (http_ && !isConnected(http_.get()))
+        http_.reset();
     if (!http_) {
         timedOut_ = now() - start_ >= longestWait || isCrowded(cupsServer());
         return false;
