@@ -7,7 +7,7 @@ env LAUNCHER=/tmp/play/bin/low-screen
 
 == what is far down comes into sight with the focus
 start
-= BixDialog.height: 415
+= Ok.inSight: true
 select Office
 tab Watermark
 check chkButWatermark
@@ -15,9 +15,11 @@ check chkButWatermark
 > cmbBxWtxt: CONFIDENTIAL; cmbBxWtyp: Solid
 > not grey: butSaveCustomWatermark, lblCustomWatermark, lblWClr, lblWFnt, lblWSze, lblWang, lblWtrans, lblWtxt, lblWtyp
 > not grey: lnEditCustomWatermark
-= BixTabWidget.y: -58
-press F6 F6 F6 Shift+Tab Shift+Tab Shift+Tab
-= @focus.accessibleName: butSaveCustomWatermark; BixTabWidget.y: -23
+= chkBxWFlg.inSight: false; Ok.inSight: true
+press F6 F6 F6 Shift+Tab Shift+Tab
+= @focus.accessibleName: chkBxWFlg; @focus.inSight: true; lnEditCustomWatermark.inSight: false
+press Shift+Tab Shift+Tab
+= @focus.accessibleName: lnEditCustomWatermark; @focus.inSight: true; chkBxWFlg.inSight: false
 
 == a click on the list leaves the focus on the page
 select Office

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMetaEnum>
+#include <QScreen>
 #include <QSet>
 #include <QTabBar>
 #include <QTableView>
@@ -310,6 +311,14 @@ QString valueToolTip(const QWidget *widget, const QString &value)
     return QString();
 }
 
+/// Whether all of it shows on the screen.
+bool isInSight(const QWidget *widget)
+{
+    const QRect place(widget->mapToGlobal(QPoint()), widget->size());
+    return widget->visibleRegion() == widget->rect() &&
+           widget->screen()->geometry().contains(place);
+}
+
 } // namespace
 
 QStringList windowState()
@@ -359,6 +368,8 @@ QString propertyText(const QWidget *widget, const QString &property)
     }
     if (property == "heading")
         return widget->property("plainText").toString().section('\n', 0, 0);
+    if (property == "inSight")
+        return QVariant(isInSight(widget)).toString();
     QVariant value = widget->property(property.toLatin1().constData());
     if (value.canConvert<QPixmap>())
         value = value.value<QPixmap>().size();
