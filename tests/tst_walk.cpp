@@ -18,6 +18,8 @@
 #include <QAbstractButton>
 #include <QTableWidget>
 
+#include <malloc.h>
+
 namespace {
 
 /// Of all sample PPDs, with the lines that the panel lists a queue for.
@@ -180,6 +182,7 @@ class TestWalk : public QObject
 private slots:
     void initTestCase();
     void everyGreyControlSaysWhy();
+    void changesOfThePrinterLeaveNothing();
 };
 
 void TestWalk::initTestCase()
@@ -201,6 +204,25 @@ void TestWalk::everyGreyControlSaysWhy()
            walk.grey, walk.explained, walk.moved, walk.told);
     QVERIFY2(walk.faults.isEmpty() && walk.grey > 1000 && walk.moved > 50,
              qPrintable(walk.faults.mid(0, 20).join('\n')));
+}
+
+void TestWalk::changesOfThePrinterLeaveNothing()
+{
+    BixDialog panel;
+    auto *printers = findNamed<QTableWidget>(&panel, "tblPrinters");
+    /// What is allocated after so many changes, in bytes.
+    const auto allocatedAfter = [&](int rounds) {
+        for (int i = 0; i < rounds * printers->rowCount(); ++i) {
+            printers->setCurrentCell(i % printers->rowCount(), 0);
+            QCoreApplication::processEvents();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+        return qint64(mallinfo2().uordblks);
+    };
+    const qint64 before = allocatedAfter(3);
+    const qint64 more = allocatedAfter(5) - before;
+    qDebug("%lld bytes at first, %lld more after five rounds", before, more);
+    QVERIFY(more < 500000);
 }
 
 QTEST_MAIN(TestWalk)

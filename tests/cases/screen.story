@@ -15,7 +15,7 @@ check chkButWatermark
 > cmbBxWtxt: CONFIDENTIAL; cmbBxWtyp: Solid
 > not grey: butSaveCustomWatermark, lblCustomWatermark, lblWClr, lblWFnt, lblWSze, lblWang, lblWtrans, lblWtxt, lblWtyp
 > not grey: lnEditCustomWatermark
-= chkBxWFlg.inSight: false; Ok.inSight: true
+= chkBxWFlg.inSight: false; cmbBxClr.inSight: true; Ok.inSight: true
 press F6 F6 F6 Shift+Tab Shift+Tab
 = @focus.accessibleName: chkBxWFlg; @focus.inSight: true; lnEditCustomWatermark.inSight: false
 press Shift+Tab Shift+Tab
