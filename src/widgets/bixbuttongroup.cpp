@@ -5,6 +5,7 @@
 
 #include <QButtonGroup>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -59,6 +60,7 @@ void BixButtonGroup::addButton(const QString &name, const QString &iconPath,
     button->setCheckable(true);
     button->setAutoDefault(false); // Return elsewhere in the window is no click here
     button->setFocusPolicy(Qt::StrongFocus);
+    button->installEventFilter(this);
     buttons.append(button);
     imagePaths.append(iconPath);
     untranslatedNames_.append(untranslatedName);
@@ -155,6 +157,34 @@ void BixButtonGroup::clearMark()
 {
     ConstraintMark::remove(label);
     ConstraintMark::explain(label, QString());
+}
+
+bool BixButtonGroup::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    auto *button = qobject_cast<QPushButton *>(watched);
+    switch (static_cast<QKeyEvent *>(event)->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+        moveFocus(button, -1);
+        return true;
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        moveFocus(button, 1);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void BixButtonGroup::moveFocus(QPushButton *from, int step)
+{
+    int to = buttons.indexOf(from) + step;
+    while (buttonAt(to) && !buttonAt(to)->isEnabled())
+        to += step;
+    if (QPushButton *button = buttonAt(to))
+        button->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
 void BixButtonGroup::setButton(int button_index)

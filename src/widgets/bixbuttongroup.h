@@ -67,6 +67,10 @@ public:
     void markWithToolTip(const QString &text);
     void clearMark();
 
+    /// Of a button: arrow keys move the focus and pick nothing, unlike Qt's, since a choice may
+    /// change other options and those on the way to it were not asked for.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 signals:
     void buttonClicked(int index);
     void buttonClicked(QAbstractButton *button);
@@ -83,6 +87,8 @@ private slots:
     void emit_buttonClicked(QAbstractButton *button);
 
 private:
+    void moveFocus(QPushButton *from, int step);
+
     QGridLayout *layout_;
     QButtonGroup *group;
     QList<QPushButton *> buttons;

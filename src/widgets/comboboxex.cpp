@@ -3,6 +3,7 @@
 #include "widgets/panellook.h"
 
 #include <QAbstractItemView>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
@@ -85,4 +86,14 @@ void ComboBoxEx::wheelEvent(QWheelEvent *event)
         QComboBox::wheelEvent(event);
     else
         event->ignore();
+}
+
+void ComboBoxEx::keyPressEvent(QKeyEvent *event)
+{
+    // Qt looks for an item that begins with a tab.
+    const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (isTab && event->modifiers().testFlag(Qt::ControlModifier))
+        event->ignore();
+    else
+        QComboBox::keyPressEvent(event);
 }

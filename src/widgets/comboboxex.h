@@ -3,7 +3,8 @@
 #include <QComboBox>
 
 /// A combo box whose list opens as wide as its longest item. It leaves the mouse wheel to the page
-/// unless it has the focus, so that scrolling never changes an option.
+/// unless it has the focus, so that scrolling never changes an option, and Ctrl+Tab to the tab
+/// widget around it.
 class ComboBoxEx : public QComboBox
 {
     Q_OBJECT
@@ -21,6 +22,7 @@ public:
 
 protected:
     void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     int grownWidth(int textWidth) const;

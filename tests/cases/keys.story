@@ -12,8 +12,11 @@ press Shift+F6 Down F6
 = page: Basic; @focus.accessibleName: cmbBxPageSize
 press Up
 > butGroupSep blocks Rotate copies; cmbBxMediaType blocks Transparency; cmbBxPageSize: A3; grey: chkButTriFld
-# Tab and Shift+Tab stay within the page, down its columns; a group is one stop.
-press Tab Tab Tab Tab Tab Right Space
+# Tab and Shift+Tab stay within the page, down its columns; a group is one stop, in which arrows move
+# and Space picks.
+press Tab Tab Tab Tab Tab Right Right Left
+= @focus.accessibleName: Long edge
+press Space
 > butGroupDuplex: Long edge
 press Tab Tab
 = @focus.accessibleName: cmbBxPageSize
@@ -45,6 +48,11 @@ press Return
 press F6 Up Up F6 Tab
 > page: Basic
 = page: Basic; @focus.accessibleName: cmbBxPageSize
+press Ctrl+Tab
+> page: Layout
+press Ctrl+Shift+Tab
+> page: Basic
+= @focus.accessibleName: cmbBxPageSize
 press End
 > butGroupDuplex: Off grey; butGroupDuplex blocks Long edge|Short edge; chkButStpl: off grey
 > cmbBxMediaType blocks Coated paper|Labels; cmbBxOutputBin blocks Finisher tray; cmbBxOutputBin frees Top tray
