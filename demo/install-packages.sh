@@ -8,8 +8,9 @@ packages=(
     # build
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev libcups2-dev libssl-dev ninja-build
     # tests and demo: the real print server and clients, the sandbox, a display, a real sudo,
-    # certificates for a server, and one font, so that measured text widths are the same everywhere
-    cups-daemon cups-client bubblewrap xvfb sudo openssl fonts-dejavu-core
+    # certificates for a server, and one font, so that measured text widths are the same everywhere;
+    # only Qt's private headers have what a desktop switches accessibility on with
+    cups-daemon cups-client bubblewrap xvfb sudo openssl fonts-dejavu-core qtbase5-private-dev
     # benchmarks and checks
     libbenchmark-dev clang-format clang-tidy clang libclang-rt-dev python3
     lintian desktop-file-utils appstream man-db

@@ -14,6 +14,9 @@
 #include "widgets/spoken.h"
 
 #include <QtWidgets>
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
 
 using A = QAccessible;
 
@@ -77,6 +80,17 @@ class TestSpoken : public QObject
         QVERIFY(!title.isEmpty() && title == spoken(top)->text(A::Name));
     }
 
+    /// In place of what hands events on to readers.
+    static void hear(QAccessibleEvent *event)
+    {
+        auto *widget = qobject_cast<QWidget *>(event->object());
+        heard << QVariant::fromValue(event->type()).toString() + ' ' +
+                     event->accessibleInterface()->text(A::Name);
+        if (event->type() == A::StateChanged && (!widget || !widget->isVisible()))
+            heard.last() += " out of sight";
+    }
+
+    static inline QStringList heard;
     QStringList names;        ///< "Button OK"
     QStringList faults, seen; ///< on the present walk
     QTranslator translator;
@@ -89,8 +103,10 @@ private slots:
         QVERIFY(translator.load(catalogueForLocale(QLocale::system().name())));
         QApplication::installTranslator(&translator);
         alignPrintSystemLanguage(QLocale::system().name());
+        A::installUpdateHandler(hear);
         Spoken::install();
-        A::setActive(true); // widgets tell of themselves while they are made
+        // As a desktop does; from then on widgets tell of themselves.
+        QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
         QVERIFY(QDir().mkpath(userDirectory()) && setFileText(settingsPath(), "Telemetry=False"));
         window = std::make_unique<BixDialog>();
         window->show();
@@ -134,7 +150,8 @@ private slots:
               names.filter(QRegularExpression(" .")).size());
         // Those whose words don't simply stand before them.
         const QString others =
-            "StatusBar A&B <i>|Pane Basic|Tree Detail|Graphic Press Desk, V|ComboBox Method|List "
+            "Notification A&B <i>|Pane Basic|Tree Detail|Graphic Press Desk, V|ComboBox "
+            "Method|List "
             "Print size|Button Color adjust|"
             "EditableText Custom job name|EditableText User Login Name|"
             "CheckBox Tri-Fold|ComboBox Tri-Fold Number|ComboBox Bi-Fold Number|Slider Cyan Red|"
@@ -213,6 +230,40 @@ private slots:
         spoken(window->findChild<QSlider *>())->valueInterface()->setCurrentValue(7);
         QCOMPARE(window->findChild<QSlider *>()->value(), 7);
         QCOMPARE(spoken(find("tblPrinters"))->tableInterface()->rowCount(), 5);
+    }
+
+    void events()
+    {
+        auto *paper = static_cast<QComboBox *>(find("cmbBxPageSize"));
+        const QString name = spoken(paper)->text(A::Name);
+        tabs->setCurrentIndex(0);
+        heard.clear();
+        // Of all the pages there is only what shows.
+        auto *printers = tabs->widget(0)->findChild<QTableWidget *>();
+        printers->setCurrentItem(printers->findItems("Ratex_200", Qt::MatchExactly).value(0));
+        QVERIFY2(heard.size() < 100 && heard.filter("out of sight").isEmpty(),
+                 qPrintable(heard.join('\n')));
+        paper->setEnabled(false);
+        paper->setEnabled(true);
+        QVERIFY(heard.filter("StateChanged " + name).isEmpty());
+        tabs->setCurrentIndex(1);
+        QCOMPARE(heard.filter("StateChanged " + name).size(), 1);
+
+        // What a box says and when; of a text Orca says what is inserted and selected.
+        window->activateWindow();
+        paper->setFocus();
+        QTRY_VERIFY(paper->hasFocus());
+        heard.clear();
+        QTest::keyClick(paper, Qt::Key_End);
+        QVERIFY(heard.contains("TextInserted " + name));
+        int start = -1, end = -1;
+        spoken(paper)->textInterface()->selection(0, &start, &end);
+        QCOMPARE(start, 0);
+        QCOMPARE(spoken(paper)->textInterface()->text(start, end), paper->currentText());
+
+        heard.clear();
+        window->findChild<NoticeLine *>()->tell([](const QString &s) { return s; }, {"Told"});
+        QVERIFY(heard.contains("ObjectShow Told"));
     }
 
     void cleanupTestCase()

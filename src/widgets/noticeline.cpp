@@ -105,6 +105,8 @@ void NoticeLine::showFitting()
 
 void NoticeLine::announce()
 {
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    // As if it had come into sight just now, which readers say of a notification. Of the event that
+    // is called an alert they never hear on X11 and Wayland.
+    QAccessibleEvent event(this, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&event);
 }

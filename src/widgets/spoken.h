@@ -13,8 +13,8 @@ class QWidget;
 /// while no reader asks.
 namespace Spoken {
 
-/// Answers for all widgets from now on. Without effect in a debug build of Qt, which does not bear
-/// two answers for a widget.
+/// Answers for all widgets from now on, and tells of them while they show. In a debug build of Qt,
+/// which does not bear two answers for a widget, the answers stay Qt's own.
 void install();
 
 /// Names a control by other widgets, such as a heading and a label, in this order. A field that has

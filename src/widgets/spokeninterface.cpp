@@ -4,11 +4,14 @@
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/noticeline.h"
 #include "widgets/spoken.h"
+#include "widgets/spokencombobox.h"
+#include "widgets/spokenevents.h"
 #include "widgets/spokentab.h"
 #include "widgets/spokenwords.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QLibraryInfo>
@@ -84,9 +87,11 @@ QAccessible::Role SpokenInterface::role() const
     if (switchOfPicture(widget))
         return QAccessible::CheckBox;
     if (qobject_cast<NoticeLine *>(widget))
-        return QAccessible::StatusBar;
+        return QAccessible::Notification; // which is said as soon as it shows
     if (widget && qobject_cast<QStackedWidget *>(widget->parentWidget()))
         return QAccessible::Pane;
+    if (qobject_cast<QStackedWidget *>(widget))
+        return QAccessible::Client; // it holds pages and is no "layered pane" to anybody
     if (widget && widget->metaObject() == &QFrame::staticMetaObject)
         return roleOfFrame(qobject_cast<QFrame *>(widget));
     return qt->role();
@@ -200,6 +205,9 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
     asked = widget;
     QAccessibleInterface *qt = QAccessible::queryAccessibleInterface(widget);
     asked = nullptr;
+    auto *box = qobject_cast<QComboBox *>(widget);
+    if (qt && box && !box->isEditable())
+        return new SpokenComboBox(box, qt);
     return qt ? new SpokenInterface(widget, qt) : nullptr;
 }
 
@@ -207,6 +215,7 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
 
 void Spoken::install()
 {
+    tellOfWhatShows();
     if (!QLibraryInfo::isDebugBuild())
         QAccessible::installFactory(makeInterface);
 }
