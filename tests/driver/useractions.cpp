@@ -181,13 +181,15 @@ void movePointerTo(const Spot &spot)
     QTest::mouseMove(window->windowHandle(), spot.widget->mapTo(window, spot.point));
 }
 
-// The window that key strokes go to now; it can be null.
+// The window that key strokes go to now; it can be null. A window that came up just now is waited
+// for, as by a user: the X server takes it for an error if one is closed first that is to be active.
 QWindow *keyboardWindow()
 {
-    if (QWidget *popup = QApplication::activePopupWidget())
-        return popup->windowHandle();
-    QWidget *window = frontWindow();
-    return window ? window->windowHandle() : nullptr;
+    QWidget *widget = QApplication::activePopupWidget();
+    if (!widget)
+        widget = frontWindow();
+    QWindow *window = widget ? widget->windowHandle() : nullptr;
+    return window && QTest::qWaitForWindowExposed(window) ? window : nullptr;
 }
 
 void sendKey(int combination)
