@@ -2,6 +2,13 @@
 
 #include <QAccessible>
 #include <QKeySequence>
+#include <QTimer>
+
+namespace {
+
+constexpr int longWork = 500; // milliseconds
+
+} // namespace
 
 NoticeLine::NoticeLine(QWidget *parent)
     : QLabel(parent)
@@ -40,7 +47,11 @@ void NoticeLine::showWork(const QString &text)
         return;
     work_ = text;
     showFitting();
-    announce();
+    // Of what is over at once a reader that asks back finds nothing.
+    QTimer::singleShot(longWork, this, [this] {
+        if (!work_.isEmpty())
+            announce();
+    });
 }
 
 void NoticeLine::endWork()

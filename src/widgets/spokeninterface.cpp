@@ -109,7 +109,10 @@ QAccessible::State SpokenInterface::state() const
     if (widget && widget->focusProxy())
         state.focusable = false;
     const auto *label = qobject_cast<QLabel *>(widget);
-    if (label && Spoken::isPicture(label) && Spoken::nameOf(label).isEmpty())
+    const bool decorates = label && Spoken::isPicture(label) && Spoken::nameOf(label).isEmpty();
+    // A group and its buttons say what stands above them, in a dialog of which readers read all
+    // else.
+    if (decorates || (label && qobject_cast<BixButtonGroup *>(label->parentWidget())))
         state.invisible = true;
     return state;
 }

@@ -73,8 +73,10 @@ QGridLayout *JobTab::createStorageGrid()
     grid->addWidget(storage->passwordEdit, 5, 1, 1, 2);
     grid->addWidget(storage->error, 5, 1, 2, 5);
     Spoken::setLabels(storage->button, {storage->label});
-    Spoken::setLabels(storage->numberEdit, {storage->numberLabel});
-    Spoken::setLabels(storage->codeEdit, {storage->codeLabel});
+    // Each with the heading, which is marked for all of them.
+    Spoken::setLabels(storage->numberEdit, {storage->label, storage->numberLabel});
+    Spoken::setLabels(storage->codeEdit, {storage->label, storage->codeLabel});
+    Spoken::setLabels(storage->passwordEdit, {storage->label, storage->passwordLabel});
     addLine(grid, 8, 6);
 
     grid->addWidget(accounting->label, 9, 0, 1, 4);

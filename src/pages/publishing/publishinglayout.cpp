@@ -94,6 +94,9 @@ QGridLayout *PublishingTab::createInsertGrid()
 {
     QWidget *const rows[] = {prints[InsertFront], prints[InsertBack],      captions[InsertPages],
                              pagesEdit,           media[PageInsert].label, media[PageInsert].box};
+    Spoken::setLabels(pagesEdit,
+                      {headings[PageInsert], captions[InsertPages]}); // the first is marked
+
     auto *grid = new QGridLayout;
     grid->addWidget(headings[PageInsert], 0, 0, 1, 2);
     grid->addWidget(buttons[PageInsert], 1, 0, 2, 1);
