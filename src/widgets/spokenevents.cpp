@@ -97,6 +97,9 @@ void tell(QAccessibleEvent *event)
     if (event->type() == QAccessible::TableModelChanged)
         return;
     auto *widget = qobject_cast<QWidget *>(event->object());
+    auto *box = qobject_cast<QComboBox *>(widget);
+    if (box && event->type() == QAccessible::ValueChanged)
+        SpokenComboBox::noteValue(box);
     if (widget && !widget->isVisible() && isChange(event->type())) {
         // Of a window that has never been shown a reader keeps nothing.
         const int missed = widget->property(missedProperty).toInt();
@@ -106,9 +109,6 @@ void tell(QAccessibleEvent *event)
         return;
     }
     pass(event);
-    auto *box = qobject_cast<QComboBox *>(widget);
-    if (box && box->hasFocus() && event->type() == QAccessible::ValueChanged)
-        SpokenComboBox::tellValue(box);
     if (widget && event->type() == QAccessible::ObjectShow)
         passMissed(widget);
 }
