@@ -145,6 +145,8 @@ private slots:
     void dialogs()
     {
         PasswordPrompt prompt(window.get(), QString());
+        QMessageBox message(QMessageBox::Information, "Success", "Settings applied.");
+        QCOMPARE(spoken(&message)->text(A::Description), message.text());
         QMetaObject::invokeMethod(find("butNewCustomAccountID"), "click"); // gives it a title
         for (QDialog *dialog : window->findChildren<QDialog *>() + QList<QDialog *>{&prompt}) {
             dialog->show();

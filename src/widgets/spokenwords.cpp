@@ -14,6 +14,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -134,6 +135,9 @@ QString Spoken::nameOf(const QWidget *widget)
 
 QString Spoken::descriptionOf(const QWidget *widget)
 {
+    // Newer versions of Orca look for it here and not at the label.
+    if (const auto *message = qobject_cast<const QMessageBox *>(widget))
+        return plain(message->text());
     QList<const QWidget *> sources{widget};
     const QWidget *whole = qobject_cast<const BixCheckBoxButton *>(widget->parentWidget());
     if (whole)
