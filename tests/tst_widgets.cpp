@@ -5,6 +5,7 @@
 #include "widgets/bixcheckboxbutton.h"
 #include "widgets/bixtabwidget.h"
 #include "widgets/comboboxex.h"
+#include "widgets/focusring.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
@@ -24,6 +25,7 @@ private slots:
     void popupWidth();
     void wheelNeedsTheFocus();
     void disabledTabDrawsNothing();
+    void ringAroundWhatIsDrawn();
 };
 
 void TestWidgets::groupChangesBeforeItTells()
@@ -159,6 +161,29 @@ void TestWidgets::disabledTabDrawsNothing()
     QCOMPARE(paint("Basic", icon, false), paint(QString(), QString(), false));
     const QImage enabled = paint("Basic", icon, true);
     QVERIFY(enabled != paint(QString(), icon, true) && enabled != paint("Basic", QString(), true));
+}
+
+void TestWidgets::ringAroundWhatIsDrawn()
+{
+    QWidget window;
+    ComboBoxEx box(&window);
+    QCheckBox check("Inside", &window);
+    for (QWidget *control : {static_cast<QWidget *>(&box), static_cast<QWidget *>(&check)}) {
+        control->setStyleSheet("margin-left: 40px; margin-bottom: 9px");
+        control->setGeometry(10, 20, 200, 40);
+    }
+    const FocusRing ring(nullptr);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    for (QWidget *control : {static_cast<QWidget *>(&box), static_cast<QWidget *>(&check)}) {
+        control->setFocus();
+        QTest::keyClick(control, Qt::Key_Shift); // the keyboard is used
+        const QRect around = static_cast<QWidget *>(window.children().last())->geometry();
+        QCOMPARE(around.right(), 211); // two pixels beside the control
+        QVERIFY2(around.left() >= 48 && around.bottom() <= 20 + 40 - 9 + 2,
+                 control->metaObject()->className());
+    }
 }
 
 QTEST_MAIN(TestWidgets)

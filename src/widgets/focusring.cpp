@@ -1,8 +1,12 @@
 #include "widgets/focusring.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOptionButton>
 
 namespace {
 
@@ -14,6 +18,26 @@ constexpr QRgb ringColor = 0xff0b4f9e;
 bool leadsOn(const QKeyEvent &event)
 {
     return event.text().isEmpty() || event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+}
+
+/// What is drawn of a control: style sheets give some of them a margin.
+QRect drawnPart(const QWidget *control)
+{
+    if (qobject_cast<const QComboBox *>(control)) {
+        QStyleOptionComboBox option;
+        option.initFrom(control);
+        return control->style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                QStyle::SC_ComboBoxFrame, control);
+    }
+    if (qobject_cast<const QCheckBox *>(control)) {
+        QStyleOptionButton option;
+        option.initFrom(control);
+        const auto part = [&](QStyle::SubElement element) {
+            return control->style()->subElementRect(element, &option, control);
+        };
+        return part(QStyle::SE_CheckBoxIndicator) | part(QStyle::SE_CheckBoxContents);
+    }
+    return control->rect();
 }
 
 /// A rectangle over whatever lies below it. Qt's own focus frame leaves out what it surrounds, and
@@ -74,7 +98,8 @@ void FocusRing::follow()
         delete ring;
         ring = new Ring(window);
     }
-    ring->setGeometry(QRect(focused->mapTo(window, QPoint()), focused->size())
+    const QRect part = drawnPart(focused);
+    ring->setGeometry(QRect(focused->mapTo(window, part.topLeft()), part.size())
                           .adjusted(-thickness, -thickness, thickness, thickness));
     ring->raise();
     ring->show();

@@ -6,6 +6,8 @@ activate
 press F6 Down
 > Office.cfg: new; published Office: new
 = title: Brixola Press Desk - Office
+press Tab
+= @focus.accessibleName: cmbBxOption17
 # From the table to the list of pages, a page down, and into it.
 press Shift+F6 Down F6
 > page: Basic

@@ -6,6 +6,8 @@
 #include <QCheckBox>
 #include <QFrame>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -45,6 +47,9 @@ bool isStop(QWidget *widget, const QWidget *page)
         return false;
     if (qobject_cast<BixCheckBoxButton *>(widget->parentWidget()))
         return qobject_cast<QCheckBox *>(widget);
+    const auto *area = qobject_cast<QScrollArea *>(widget);
+    if (area && area->verticalScrollBar()->maximum() == 0)
+        return false; // nothing to scroll
     const auto *button = qobject_cast<QAbstractButton *>(widget);
     const QList<QAbstractButton *> all = button ? alternatives(button) : QList<QAbstractButton *>();
     if (all.isEmpty())
