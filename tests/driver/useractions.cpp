@@ -182,7 +182,8 @@ void movePointerTo(const Spot &spot)
 }
 
 // The window that key strokes go to now; it can be null. A window that came up just now is waited
-// for, as by a user: the X server takes it for an error if one is closed first that is to be active.
+// for, as by a user: the X server takes it for an error if one is closed first that is to be
+// active.
 QWindow *keyboardWindow()
 {
     QWidget *widget = QApplication::activePopupWidget();
