@@ -158,9 +158,8 @@ private slots:
               names.filter(QRegularExpression(" .")).size());
         // Those whose words don't simply stand before them.
         const QString others =
-            "Notification A&B <i>|Pane Basic|Tree Detail|Graphic Press Desk, V|ComboBox "
-            "Method|List "
-            "Print size|Button Color adjust|"
+            "Notification A&B <i>|Pane Basic|Tree Detail|Graphic Press Desk, V|"
+            "ComboBox Method|List Print size|Button Color adjust|"
             "EditableText Custom job name|EditableText User Login Name|"
             "CheckBox Tri-Fold|ComboBox Tri-Fold Number|ComboBox Bi-Fold Number|Slider Cyan Red|"
             "EditableText Cyan Red|CheckBox Front Outside|CheckBox Back Inside|Grouping Watermark";

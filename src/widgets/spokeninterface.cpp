@@ -110,8 +110,7 @@ QAccessible::State SpokenInterface::state() const
         state.focusable = false;
     const auto *label = qobject_cast<QLabel *>(widget);
     const bool decorates = label && Spoken::isPicture(label) && Spoken::nameOf(label).isEmpty();
-    // A group and its buttons say what stands above them, in a dialog of which readers read all
-    // else.
+    // What stands above a group of pictures is said by the group and its buttons already.
     if (decorates || (label && qobject_cast<BixButtonGroup *>(label->parentWidget())))
         state.invisible = true;
     return state;

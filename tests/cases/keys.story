@@ -50,6 +50,7 @@ press Return
 press F6 Up Up F6 Tab
 > page: Basic
 = page: Basic; @focus.accessibleName: cmbBxPageSize
+# From a list box too, in which Qt would look for an item.
 press Ctrl+Tab
 > page: Layout
 press Ctrl+Shift+Tab

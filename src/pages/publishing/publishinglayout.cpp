@@ -94,8 +94,8 @@ QGridLayout *PublishingTab::createInsertGrid()
 {
     QWidget *const rows[] = {prints[InsertFront], prints[InsertBack],      captions[InsertPages],
                              pagesEdit,           media[PageInsert].label, media[PageInsert].box};
-    Spoken::setLabels(pagesEdit,
-                      {headings[PageInsert], captions[InsertPages]}); // the first is marked
+    // With the heading, which is marked for a fault in it.
+    Spoken::setLabels(pagesEdit, {headings[PageInsert], captions[InsertPages]});
 
     auto *grid = new QGridLayout;
     grid->addWidget(headings[PageInsert], 0, 0, 1, 2);
